@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+// A gallery sample draws one picture into the file it is given.  Samples register
+// themselves with VISTREL_GALLERY_SAMPLE in their own source file.
+struct GallerySample {
+    const char *section;
+    const char *title;
+    const char *fileName;  // written into the gallery folder, e.g. "canvas_lines.png"
+    bool (*render)(const std::string &path);
+};
+
+std::vector<GallerySample> &gallerySamples();
+
+struct GalleryRegistrar {
+    explicit GalleryRegistrar(const GallerySample &sample) { gallerySamples().push_back(sample); }
+};
+
+#define VISTREL_GALLERY_CONCAT2(a, b) a##b
+#define VISTREL_GALLERY_CONCAT(a, b) VISTREL_GALLERY_CONCAT2(a, b)
+#define VISTREL_GALLERY_SAMPLE(section, title, fileName, fn) \
+    static GalleryRegistrar VISTREL_GALLERY_CONCAT(          \
+        galleryRegistrar_, __LINE__)(GallerySample{section, title, fileName, fn})

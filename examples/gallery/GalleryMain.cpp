@@ -1,0 +1,90 @@
+// Renders every registered sample and writes index.html beside the pictures.
+#include <algorithm>
+#include <cstdio>
+#include <string>
+
+#include "examples/gallery/Gallery.h"
+
+std::vector<GallerySample> &gallerySamples() {
+    static std::vector<GallerySample> samples;
+    return samples;
+}
+
+static std::string htmlEscape(const char *s) {
+    std::string out;
+    for (; *s; ++s) {
+        switch (*s) {
+            case '<':
+                out += "&lt;";
+                break;
+            case '>':
+                out += "&gt;";
+                break;
+            case '&':
+                out += "&amp;";
+                break;
+            case '"':
+                out += "&quot;";
+                break;
+            default:
+                out += *s;
+        }
+    }
+    return out;
+}
+
+static bool isPicture(const std::string &name) {
+    for (const char *ext : {".png", ".jpg", ".gif", ".bmp", ".svg"})
+        if (name.size() > 4 && name.compare(name.size() - 4, 4, ext) == 0) return true;
+    return false;
+}
+
+int main(int argc, char **argv) {
+    std::string dir = argc > 1 ? argv[1] : "out/gallery";
+    std::vector<GallerySample> samples = gallerySamples();
+    std::stable_sort(samples.begin(), samples.end(),
+                     [](const GallerySample &a, const GallerySample &b) {
+                         return std::string(a.section) < b.section;
+                     });
+
+    std::string html =
+        "<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>Vistrel gallery</title>\n"
+        "<style>body{font-family:sans-serif;margin:2em;background:#f4f4f4}"
+        ".s{display:inline-block;vertical-align:top;margin:8px;padding:8px;background:#fff;"
+        "border:1px solid #ccc}.s img{display:block;max-width:640px}</style></head><body>\n"
+        "<h1>Vistrel gallery</h1>\n";
+    int failures = 0;
+    std::string section;
+    for (const GallerySample &s : samples) {
+        if (section != s.section) {
+            section = s.section;
+            html += "<h2>" + htmlEscape(s.section) + "</h2>\n";
+        }
+        std::string path = dir + "/" + s.fileName;
+        bool ok = s.render(path);
+        if (!ok) {
+            ++failures;
+            std::fprintf(stderr, "gallery: sample '%s' failed\n", s.title);
+        }
+        html += "<div class=\"s\"><p>" + htmlEscape(s.title) + "</p>";
+        std::string name = htmlEscape(s.fileName);
+        if (isPicture(s.fileName))
+            html += "<img src=\"" + name + "\" alt=\"" + htmlEscape(s.title) + "\">";
+        html += "<a href=\"" + name + "\">" + name + "</a>";
+        if (!ok) html += " <b>(failed)</b>";
+        html += "</div>\n";
+    }
+    if (samples.empty()) html += "<p>No samples yet.</p>\n";
+    html += "</body></html>\n";
+
+    std::string index = dir + "/index.html";
+    FILE *f = std::fopen(index.c_str(), "wb");
+    if (!f) {
+        std::fprintf(stderr, "gallery: cannot write %s\n", index.c_str());
+        return 1;
+    }
+    std::fwrite(html.data(), 1, html.size(), f);
+    std::fclose(f);
+    std::printf("gallery: %d samples, %d failed\n", (int)samples.size(), failures);
+    return failures ? 1 : 0;
+}
