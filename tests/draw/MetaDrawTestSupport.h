@@ -1,0 +1,123 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "draw/DrawArea.h"
+#include "draw/DrawBackEnd.h"
+#include "draw/MetaDraw.h"
+#include "draw/MetaDrawImpl.h"
+#include "draw/MetaText.h"
+#include "foundation/Stream.h"
+
+namespace metadraw_test {
+
+inline std::string listingOf(MetaDraw *list) {
+    qlx::ostrstream out;
+    list->writeListing(out);
+    out.ensureNullTerminated();
+    return out.str() ? std::string(out.str()) : std::string();
+}
+
+inline std::string str(int v) {
+    return std::to_string(v);
+}
+
+class FakeText : public MetaText {
+public:
+    int refs = 1;
+    std::vector<int> colors;  // 0 takes the draw colour
+    void retainText() override { ++refs; }
+    void releaseText() override { --refs; }
+    int getItemCount() const override { return (int)colors.size(); }
+    int getItemColor(int i, int defaultColor) const override {
+        return colors[i] ? colors[i] : defaultColor;
+    }
+    ~FakeText() override {}
+};
+
+// Logs each call as a short line.
+class RecordingBackEnd : public DrawBackEnd {
+public:
+    std::vector<std::string> calls;
+    bool hasSnapshot = false;
+    MetaDraw *reenter = nullptr;
+    int reenterResult = -2;
+
+    void log(const std::string &s) { calls.push_back(s); }
+    static std::string num(double v) {
+        char buf[64];
+        snprintf(buf, sizeof buf, "%g", v);
+        return buf;
+    }
+
+    void beginPlay(double scale) override { log("beginPlay " + num(scale)); }
+    void endPlay() override { log("endPlay"); }
+    void reportError(const char *message) override { log(std::string("error ") + message); }
+    void setSize(int w, int h, int bg) override {
+        log("setSize " + str(w) + " " + str(h) + " " + str(bg));
+        if (reenter) reenterResult = reenter->play(this, 7);
+    }
+    void setBgColor(int color) override { log("setBgColor " + str(color)); }
+    void line(double x1, double y1, double x2, double y2, int color, int width) override {
+        log("line " + num(x1) + " " + num(y1) + " " + num(x2) + " " + num(y2) + " " + str(color) +
+            " " + str(width));
+    }
+    void polyLine(int color, int width, const double *xy, int n) override {
+        std::string s = "polyLine " + str(color) + " " + str(width);
+        for (int i = 0; i < 2 * n; ++i) s += " " + num(xy[i]);
+        log(s);
+    }
+    void multiLine(const MetaLineEntry *items, int n) override {
+        log("multiLine " + str(n) + (n > 0 && items[0].isStyle ? " style" : ""));
+    }
+    void polygon(int edge, int fill, const double *x, const double *y, int n) override {
+        std::string s = "polygon " + str(edge) + " " + str(fill);
+        for (int i = 0; i < n; ++i) s += " " + num(x[i]) + "," + num(y[i]);
+        log(s);
+    }
+    void shape(int fill, bool inset, bool keep, const MetaPathItem *items, int n) override {
+        std::string s = "shape " + str(fill) + " " + str(inset) + str(keep);
+        for (int i = 0; i < n; ++i)
+            s += " " + str(items[i].type) + ":" + num(items[i].v[0]) + ":" + str(items[i].color) +
+                 ":" + str(items[i].flag);
+        log(s);
+    }
+    void drawText(MetaText *, int first, int end, int x, int y, int color) override {
+        log("drawText " + str(first) + " " + str(end) + " " + str(x) + " " + str(y) + " " +
+            str(color));
+    }
+    void beginSymbol(int id) override { log("beginSymbol " + str(id)); }
+    void endSymbol(int id) override { log("endSymbol " + str(id)); }
+    void mergeWithScaling(int id, int x, int y, int w, int h, int t) override {
+        log("mergeWithScaling " + str(id) + " " + str(x) + " " + str(y) + " " + str(w) + " " +
+            str(h) + " " + str(t));
+    }
+    void mergeBitMap(int id, const int *, int count, int width, int x, int y) override {
+        log("mergeBitMap " + str(id) + " " + str(count) + " " + str(width) + " " + str(x) + " " +
+            str(y));
+    }
+    void loadStream(int id, const char *data, int length, int type, int w, int h) override {
+        log("loadStream " + str(id) + " " + std::string(data, length) + " " + str(type) + " " +
+            str(w) + " " + str(h));
+    }
+    void initDynamicLayer() override { log("initDynamicLayer"); }
+    bool restoreSnapshot() override {
+        log("restoreSnapshot");
+        return hasSnapshot;
+    }
+    void removeSymbol(int id) override { log("removeSymbol " + str(id)); }
+    void dashLineColor(int handle, int color, int pattern) override {
+        log("dashLineColor " + str(handle) + " " + str(color) + " " + str(pattern));
+    }
+    void linearGradientColor(int handle, double x1, double y1, double x2, double y2, bool,
+                             const int *, int n) override {
+        log("linearGradientColor " + str(handle) + " " + num(x1) + " " + num(y1) + " " + num(x2) +
+            " " + num(y2) + " " + str(n));
+    }
+    void patternColor2(int handle, int sx, int sy, const char *file) override {
+        log("patternColor2 " + str(handle) + " " + str(sx) + " " + str(sy) + " " + file);
+    }
+};
+
+}  // namespace metadraw_test
