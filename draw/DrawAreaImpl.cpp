@@ -10,6 +10,7 @@
 #include "draw/CurveFlattener.h"
 #include "draw/DrawBackEnd.h"
 #include "draw/MetaDraw.h"
+#include "draw/RaisedEffect.h"
 #include "draw/ShapePath.h"
 #include "draw/SubDrawArea.h"
 #include "draw/TextAntiAlias.h"
@@ -374,7 +375,11 @@ void DrawAreaImpl::arc(double cx, double cy, double rx, double ry, double a1, do
 // ---- Rectangles ----
 
 void DrawAreaImpl::rect(double x1, double y1, double x2, double y2, int edgeColor, int fillColor,
-                        int) {
+                        int raisedEffect) {
+    if (raisedEffect != 0) {
+        RaisedEffect(raisedEffect).paint(this, x1, y1, x2, y2, edgeColor, fillColor);
+        return;
+    }
     const int radius[4] = {0, 0, 0, 0};
     const int edges[4] = {edgeColor, edgeColor, edgeColor, edgeColor};
     roundedRect(x1, y1, x2, y2, radius, edges, fillColor);
