@@ -22,7 +22,6 @@ DrawAreaImpl::BackEndHooks DrawAreaImpl::hooks = {};
 
 namespace {
 
-const int kMaxColorTable = 32768;
 // Font table entries beyond this are refused: an index is a small number.
 const int kMaxFontTable = 1024;
 // The gzip level of compressed SVG.
