@@ -156,6 +156,8 @@ public:
     virtual MemBlock outSVG2(const char *options) = 0;
     virtual MemBlock outPDF2() = 0;
     virtual MemBlock outAGF2() = 0;
+    // The transparency byte of each pixel (0 opaque), row by row.
+    virtual MemBlock outAlpha2() = 0;
     virtual void setOutputOptions(const char *options) = 0;
 
     virtual void setPaletteMode(int value) = 0;

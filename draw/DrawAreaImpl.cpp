@@ -8,6 +8,7 @@
 
 #include "draw/ColorWords.h"
 #include "draw/CurveFlattener.h"
+#include "draw/DrawBMP.h"
 #include "draw/DrawBackEnd.h"
 #include "draw/MetaDraw.h"
 #include "draw/RaisedEffect.h"
@@ -18,7 +19,7 @@
 #include "foundation/Constants.h"
 #include "foundation/Unicode.h"
 
-DrawAreaImpl::BackEndHooks DrawAreaImpl::hooks = {};
+DrawAreaImpl::BackEndHooks DrawAreaImpl::hooks = DrawBMP::canvasHooks();
 
 namespace {
 
@@ -864,6 +865,15 @@ MemBlock DrawAreaImpl::outWMP2() {
 
 MemBlock DrawAreaImpl::outBMP2() {
     return encodeRaster(kBMP, 0);
+}
+
+MemBlock DrawAreaImpl::outAlpha2() {
+    memOut.reset();
+    if (!hooks.encodeAlpha || !hooks.encodeAlpha(this, memOut)) {
+        memOut.reset();
+        return MemBlock();
+    }
+    return memResult();
 }
 
 MemBlock DrawAreaImpl::outSVG2(const char *options) {

@@ -27,6 +27,8 @@ public:
         void (*floodFill)(DrawBackEnd *raster, int x, int y, int color, int borderColor);
         // Encodes the canvas as a raster image type (PNG, GIF, JPG, WMP, BMP).
         bool (*encodeRaster)(DrawAreaImpl *canvas, int imageType, int quality, qlx::ostream &out);
+        // The transparency byte of every pixel, row by row.
+        bool (*encodeAlpha)(DrawAreaImpl *canvas, qlx::ostream &out);
         // Writes the canvas's list as SVG or PDF.
         bool (*writeVector)(DrawAreaImpl *canvas, int imageType, qlx::ostream &out);
     };
@@ -137,6 +139,7 @@ public:
     MemBlock outSVG2(const char *options) override;
     MemBlock outPDF2() override;
     MemBlock outAGF2() override;
+    MemBlock outAlpha2() override;
     void setOutputOptions(const char *options) override;
 
     void setPaletteMode(int value) override { paletteMode = value; }
@@ -202,8 +205,8 @@ public:
     }
     int angleGradientColor(double cx, double cy, double startAngle, double endAngle,
                            double innerRadius, double outerRadius, IntArray table) override {
-        return colors()->angleGradientColor(cx, cy, startAngle, endAngle, innerRadius,
-                                            outerRadius, table);
+        return colors()->angleGradientColor(cx, cy, startAngle, endAngle, innerRadius, outerRadius,
+                                            table);
     }
     int lightingColor(int color, IntArray lighting, double angle) override {
         return colors()->lightingColor(color, lighting, angle);
@@ -212,8 +215,7 @@ public:
                             IntArray lighting, bool periodic) override {
         return colors()->linearLightingColor(x1, y1, x2, y2, color, lighting, periodic);
     }
-    int radialLightingColor(int cx, int cy, int rx, int ry, int color,
-                            IntArray lighting) override {
+    int radialLightingColor(int cx, int cy, int rx, int ry, int color, IntArray lighting) override {
         return colors()->radialLightingColor(cx, cy, rx, ry, color, lighting);
     }
     int relativeLightingColor(double x1, double y1, double x2, double y2, int color,

@@ -26,5 +26,14 @@ static bool canvasListing(const std::string &path) {
     return ok;
 }
 
-VISTREL_GALLERY_SAMPLE("Canvas", "Display list listing of a free drawing", "canvas_scene.agf",
-                       canvasListing);
+static bool canvasPicture(const std::string &path) {
+    DrawArea *d = drawScene();
+    bool ok = d->out(path.c_str());
+    d->destroy();
+    return ok;
+}
+
+VISTREL_GALLERY_SAMPLE("Canvas", "A free drawing: shapes, gradient, lines and a dash",
+                       "canvas_scene.png", canvasPicture);
+VISTREL_GALLERY_SAMPLE("Canvas", "The same drawing as a listing of its display list",
+                       "canvas_scene.agf", canvasListing);

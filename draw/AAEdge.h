@@ -1,0 +1,31 @@
+#pragma once
+
+class ShapeTarget;
+
+// Where an edge crosses a pixel row: its x there, the factor that turns a
+// horizontal distance into a distance along the edge's normal, and the least
+// and greatest x that the edge reaches within the row.
+struct AASpan {
+    double x;
+    double factor;
+    double minX;
+    double maxX;
+};
+
+// One edge of an anti-aliased shape.
+class AAEdge {
+public:
+    virtual ~AAEdge() {}
+    double minY() const { return yMin; }
+    double maxY() const { return yMax; }
+    // Rows from minY up to, not including, maxY.
+    bool crosses(double y) const { return y >= yMin && y < yMax; }
+    virtual AASpan spanAt(double y) const = 0;
+    virtual void drawOutline(ShapeTarget *target) const = 0;
+    int getColor() const { return color; }
+
+protected:
+    AAEdge(int color) : color(color), yMin(0), yMax(0) {}
+    int color;
+    double yMin, yMax;
+};
