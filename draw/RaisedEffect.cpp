@@ -101,7 +101,8 @@ int RaisedEffect::fillWithLighting(DrawArea *d, double x1, double y1, double x2,
         // A vertical cylinder is lit across its width, a horizontal one across its height.
         bool across = Chart::getCylinderOrientation(word) != 8;
         std::vector<int> table;
-        Chart::getShearedCylinderLighting(table, word, across ? 0 : 1, across ? 1 : 0);
+        // Seen straight on, the profile is symmetric about the cylinder's axis.
+        Chart::getShearedCylinderLighting(table, word, 1, 0);
         if (table.empty()) return fillColor;
         IntArray lighting(table.data(), (int)table.size());
         return across ? d->linearLightingColor(x1, y1, x2, y1, fillColor, lighting, false)
