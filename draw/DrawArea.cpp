@@ -1,7 +1,10 @@
 #include "draw/DrawArea.h"
 
+#include "draw/CanvasTextService.h"
+#include "draw/ColorModel.h"
 #include "draw/DrawAreaImpl.h"
 #include "draw/GlobalResources.h"
+#include "draw/ImageEncoder.h"
 #include "draw/ImageSniffer.h"
 #include "foundation/Constants.h"
 
@@ -82,4 +85,40 @@ int DrawArea::getFileLimit() {
 
 int DrawArea::getDefaultTextAA() {
     return GlobalResources::getDefaultTextAA();
+}
+
+int DrawArea::adjustBrightnessARGB(int color, int k) {
+    return ColorModel::adjustBrightnessARGB(color, k);
+}
+
+bool DrawArea::encodePNG(qlx::ostream &out, const int *pixels, int width, int height) {
+    return ImageEncoder::encodePNG(out, pixels, width, height);
+}
+
+int DrawArea::testFont(const char *font, int fontIndex, double fontHeight, double fontWidth,
+                       char *report) {
+    CanvasTextService *text = CanvasTextService::get();
+    if (!text) {
+        if (report) report[0] = 0;
+        return 0;
+    }
+    return text->testFont(font, fontIndex, fontHeight, fontWidth, report);
+}
+
+void DrawArea::setFontSearchPath(const char *path) {
+    if (CanvasTextService *text = CanvasTextService::get()) text->setFontSearchPath(path, false);
+}
+
+std::string DrawArea::getFontSearchPath() {
+    CanvasTextService *text = CanvasTextService::get();
+    return text ? text->getFontSearchPath(false) : std::string();
+}
+
+void DrawArea::setCustomFontSearchPath(const char *path) {
+    if (CanvasTextService *text = CanvasTextService::get()) text->setFontSearchPath(path, true);
+}
+
+std::string DrawArea::getCustomFontSearchPath() {
+    CanvasTextService *text = CanvasTextService::get();
+    return text ? text->getFontSearchPath(true) : std::string();
 }

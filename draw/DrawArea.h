@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cwchar>
+#include <string>
 
 #include "foundation/ArrayViews.h"
 #include "foundation/Stream.h"
 
 class MetaDraw;
+class TTFText;
 class DrawBackEnd;
 
 // Anything a canvas keeps alive for its users (addObject, addFontAttr): deleted
@@ -112,6 +114,34 @@ public:
     virtual void fill(int x, int y, int color) = 0;
 
     // Composition.  merge puts d into this canvas; transparency 0 is opaque.
+    // Text.  The forms that return a TTFText give it to the caller, who
+    // destroys it; the others draw at (x, y) with the alignment (kTopLeft is 7).
+    virtual TTFText *text(const char *str, const char *font, double fontSize) = 0;
+    virtual TTFText *textw(const wchar_t *str, const char *font, double fontSize) = 0;
+    virtual TTFText *text2(const char *str, const char *font, int fontIndex, double fontHeight,
+                           double fontWidth, double angle, bool vertical) = 0;
+    virtual TTFText *text2w(const wchar_t *str, const char *font, int fontIndex, double fontHeight,
+                            double fontWidth, double angle, bool vertical) = 0;
+    virtual void text3(const char *str, const char *font, double fontSize, int x, int y,
+                       int color) = 0;
+    virtual void text3w(const wchar_t *str, const char *font, double fontSize, int x, int y,
+                        int color) = 0;
+    virtual void text4(const char *str, const char *font, int fontIndex, double fontHeight,
+                       double fontWidth, double angle, bool vertical, int x, int y, int color,
+                       int alignment) = 0;
+    virtual void text4w(const wchar_t *str, const char *font, int fontIndex, double fontHeight,
+                        double fontWidth, double angle, bool vertical, int x, int y, int color,
+                        int alignment) = 0;
+    // Wrapped at maxWidth pixels and cut with "..." after maxLines lines.
+    virtual void textBlock(const char *str, const char *font, int fontIndex, double fontHeight,
+                           double fontWidth, double angle, int x, int y, int maxWidth, int maxLines,
+                           int color, int alignment) = 0;
+    virtual void textBlockw(const wchar_t *str, const char *font, int fontIndex, double fontHeight,
+                            double fontWidth, double angle, int x, int y, int maxWidth,
+                            int maxLines, int color, int alignment) = 0;
+    // Sizes the canvas to the mark-up and draws it; the list is then closed.
+    virtual void renderVSML(const char *markup) = 0;
+
     virtual void merge(DrawArea *d, int x, int y, int align, int transparency) = 0;
     virtual void mergeScaled(DrawArea *d, int x, int y, int width, int height,
                              int transparency) = 0;
@@ -135,6 +165,15 @@ public:
                                  int bgColor, int filter, double blur) = 0;
     virtual void shearTransform(double xShear, double yShear, int bgColor, int filter,
                                 double blur) = 0;
+    // Warps have no record: they work on the raster, so vector outputs and a
+    // replay after a dynamic layer's removal don't show them.  Rows are shifted
+    // by a sine wave of the period and amplitude in pixels.
+    virtual void waveTransform(double period, double amplitude, double phase, int bgColor) = 0;
+    virtual void sphereTransform(int bgColor) = 0;
+    virtual void hCylinderTransform(int bgColor) = 0;
+    virtual void vCylinderTransform(int bgColor) = 0;
+    virtual void vTriangleTransform(int bgColor) = 0;
+    virtual void hTriangleTransform(int bgColor) = 0;
 
     // File outputs: true on success.  Paths are UTF-8.
     virtual bool out(const char *path) = 0;
@@ -272,6 +311,17 @@ public:
     static int getPixelLimit();
     static int getFileLimit();
     static int getDefaultTextAA();
+    // A colour with its brightness scaled by k / 1024.
+    static int adjustBrightnessARGB(int color, int k);
+    // A bare block of colour-word pixels as PNG bytes into out.
+    static bool encodePNG(qlx::ostream &out, const int *pixels, int width, int height);
+    // The font lookup report (at most 2048 bytes) into report; 1 when it ran.
+    static int testFont(const char *font, int fontIndex, double fontHeight, double fontWidth,
+                        char *report);
+    static void setFontSearchPath(const char *path);
+    static std::string getFontSearchPath();
+    static void setCustomFontSearchPath(const char *path);
+    static std::string getCustomFontSearchPath();
 
 protected:
     virtual ~DrawArea() {}

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "draw/CanvasTextService.h"
 #include "draw/ColorWords.h"
 #include "draw/CurveFlattener.h"
 #include "draw/DrawBMP.h"
@@ -263,6 +264,38 @@ void DrawAreaImpl::vFlip() {
 void DrawAreaImpl::shearTransform(double xShear, double yShear, int bgColor, int filter,
                                   double blur) {
     affineTransform(1, xShear, yShear, 1, 0, 0, bgColor, filter, blur);
+}
+
+void DrawAreaImpl::warp(ImageOps::ImageWarp::Kind kind, int bgColor, double period,
+                        double amplitude, double phase) {
+    if (!hooks.warpImage) return;
+    ImageOps::ImageWarp w = {kind, getARGBColor(bgColor), period, amplitude, phase};
+    if (DrawBackEnd *raster = getRaster()) hooks.warpImage(raster, w);
+}
+
+void DrawAreaImpl::waveTransform(double period, double amplitude, double phase, int bgColor) {
+    if (!isCoor(period) || !isCoor(amplitude) || !isCoor(phase) || period == 0) return;
+    warp(ImageOps::ImageWarp::kWave, bgColor, period, amplitude, phase);
+}
+
+void DrawAreaImpl::sphereTransform(int bgColor) {
+    warp(ImageOps::ImageWarp::kSphere, bgColor);
+}
+
+void DrawAreaImpl::hCylinderTransform(int bgColor) {
+    warp(ImageOps::ImageWarp::kHCylinder, bgColor);
+}
+
+void DrawAreaImpl::vCylinderTransform(int bgColor) {
+    warp(ImageOps::ImageWarp::kVCylinder, bgColor);
+}
+
+void DrawAreaImpl::vTriangleTransform(int bgColor) {
+    warp(ImageOps::ImageWarp::kVTriangle, bgColor);
+}
+
+void DrawAreaImpl::hTriangleTransform(int bgColor) {
+    warp(ImageOps::ImageWarp::kHTriangle, bgColor);
 }
 
 // ---- Pixels ----
@@ -583,6 +616,87 @@ void DrawAreaImpl::gouraudTriangle(double x0, double y0, double i0, double x1, d
     for (double d : v)
         if (!isCoor(d)) return;
     metaDraw->gouraudTriangle(x0, y0, i0, x1, y1, i1, x2, y2, i2, color);
+}
+
+// ---- Text ----
+
+namespace {
+
+// Wide copy of a UTF-8 text for the text layer.
+std::vector<wchar_t> widen(const char *str) {
+    std::vector<wchar_t> wide(str ? strlen(str) + 1 : 1, 0);
+    if (str) qlx::toWCS(wide.data(), str);
+    return wide;
+}
+
+}  // namespace
+
+TTFText *DrawAreaImpl::text(const char *str, const char *font, double fontSize) {
+    return text2w(widen(str).data(), font, 0, fontSize, 0, 0, false);
+}
+
+TTFText *DrawAreaImpl::textw(const wchar_t *str, const char *font, double fontSize) {
+    return text2w(str, font, 0, fontSize, 0, 0, false);
+}
+
+TTFText *DrawAreaImpl::text2(const char *str, const char *font, int fontIndex, double fontHeight,
+                             double fontWidth, double angle, bool vertical) {
+    return text2w(widen(str).data(), font, fontIndex, fontHeight, fontWidth, angle, vertical);
+}
+
+TTFText *DrawAreaImpl::text2w(const wchar_t *str, const char *font, int fontIndex,
+                              double fontHeight, double fontWidth, double angle, bool vertical) {
+    CanvasTextService *service = CanvasTextService::get();
+    if (!service) return nullptr;
+    return service->text(this, str ? str : L"", font, fontIndex, fontHeight, fontWidth, angle,
+                         vertical, getTextAAMode());
+}
+
+void DrawAreaImpl::text3(const char *str, const char *font, double fontSize, int x, int y,
+                         int color) {
+    text4w(widen(str).data(), font, 0, fontSize, 0, 0, false, x, y, color, kTopLeft);
+}
+
+void DrawAreaImpl::text3w(const wchar_t *str, const char *font, double fontSize, int x, int y,
+                          int color) {
+    text4w(str, font, 0, fontSize, 0, 0, false, x, y, color, kTopLeft);
+}
+
+void DrawAreaImpl::text4(const char *str, const char *font, int fontIndex, double fontHeight,
+                         double fontWidth, double angle, bool vertical, int x, int y, int color,
+                         int alignment) {
+    text4w(widen(str).data(), font, fontIndex, fontHeight, fontWidth, angle, vertical, x, y, color,
+           alignment);
+}
+
+void DrawAreaImpl::text4w(const wchar_t *str, const char *font, int fontIndex, double fontHeight,
+                          double fontWidth, double angle, bool vertical, int x, int y, int color,
+                          int alignment) {
+    if (CanvasTextService *service = CanvasTextService::get())
+        service->drawText(this, str ? str : L"", font, fontIndex, fontHeight, fontWidth, angle,
+                          vertical, x, y, 0, 0, color, alignment, getTextAAMode());
+}
+
+void DrawAreaImpl::textBlock(const char *str, const char *font, int fontIndex, double fontHeight,
+                             double fontWidth, double angle, int x, int y, int maxWidth,
+                             int maxLines, int color, int alignment) {
+    textBlockw(widen(str).data(), font, fontIndex, fontHeight, fontWidth, angle, x, y, maxWidth,
+               maxLines, color, alignment);
+}
+
+void DrawAreaImpl::textBlockw(const wchar_t *str, const char *font, int fontIndex,
+                              double fontHeight, double fontWidth, double angle, int x, int y,
+                              int maxWidth, int maxLines, int color, int alignment) {
+    if (CanvasTextService *service = CanvasTextService::get())
+        service->drawText(this, str ? str : L"", font, fontIndex, fontHeight, fontWidth, angle,
+                          false, x, y, maxWidth, maxLines, color, alignment, getTextAAMode());
+}
+
+void DrawAreaImpl::renderVSML(const char *markup) {
+    CanvasTextService *service = CanvasTextService::get();
+    if (!service) return;
+    service->renderVSML(this, markup ? markup : "", getTextAAMode());
+    metaDraw->freeze();
 }
 
 // ---- Composition ----

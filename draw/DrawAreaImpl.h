@@ -7,6 +7,7 @@
 
 #include "draw/ColorModel.h"
 #include "draw/DrawArea.h"
+#include "draw/ImageOps.h"
 #include "foundation/Stream.h"
 
 // The canvas.  Records every drawing call into its display list and keeps the
@@ -27,6 +28,7 @@ public:
         void (*floodFill)(DrawBackEnd *raster, int x, int y, int color, int borderColor);
         // Encodes the canvas as a raster image type (PNG, GIF, JPG, WMP, BMP).
         bool (*encodeRaster)(DrawAreaImpl *canvas, int imageType, int quality, qlx::ostream &out);
+        void (*warpImage)(DrawBackEnd *raster, const ImageOps::ImageWarp &warp);
         // The transparency byte of every pixel, row by row.
         bool (*encodeAlpha)(DrawAreaImpl *canvas, qlx::ostream &out);
         // Writes the canvas's list as SVG or PDF.
@@ -101,6 +103,30 @@ public:
     void fill2(int x, int y, int color, int borderColor) override;
     void fill(int x, int y, int color) override;
 
+    TTFText *text(const char *str, const char *font, double fontSize) override;
+    TTFText *textw(const wchar_t *str, const char *font, double fontSize) override;
+    TTFText *text2(const char *str, const char *font, int fontIndex, double fontHeight,
+                   double fontWidth, double angle, bool vertical) override;
+    TTFText *text2w(const wchar_t *str, const char *font, int fontIndex, double fontHeight,
+                    double fontWidth, double angle, bool vertical) override;
+    void text3(const char *str, const char *font, double fontSize, int x, int y,
+               int color) override;
+    void text3w(const wchar_t *str, const char *font, double fontSize, int x, int y,
+                int color) override;
+    void text4(const char *str, const char *font, int fontIndex, double fontHeight,
+               double fontWidth, double angle, bool vertical, int x, int y, int color,
+               int alignment) override;
+    void text4w(const wchar_t *str, const char *font, int fontIndex, double fontHeight,
+                double fontWidth, double angle, bool vertical, int x, int y, int color,
+                int alignment) override;
+    void textBlock(const char *str, const char *font, int fontIndex, double fontHeight,
+                   double fontWidth, double angle, int x, int y, int maxWidth, int maxLines,
+                   int color, int alignment) override;
+    void textBlockw(const wchar_t *str, const char *font, int fontIndex, double fontHeight,
+                    double fontWidth, double angle, int x, int y, int maxWidth, int maxLines,
+                    int color, int alignment) override;
+    void renderVSML(const char *markup) override;
+
     void merge(DrawArea *d, int x, int y, int align, int transparency) override;
     void mergeScaled(DrawArea *d, int x, int y, int width, int height, int transparency) override;
     void mergeRotated(DrawArea *d, double x, double y, double angle) override;
@@ -119,6 +145,12 @@ public:
                           int filter, double blur) override;
     void affineTransform(double a, double b, double c, double d, double e, double f, int bgColor,
                          int filter, double blur) override;
+    void waveTransform(double period, double amplitude, double phase, int bgColor) override;
+    void sphereTransform(int bgColor) override;
+    void hCylinderTransform(int bgColor) override;
+    void vCylinderTransform(int bgColor) override;
+    void vTriangleTransform(int bgColor) override;
+    void hTriangleTransform(int bgColor) override;
     void shearTransform(double xShear, double yShear, int bgColor, int filter,
                         double blur) override;
 
@@ -296,6 +328,8 @@ protected:
     void destroyRaster();
 
 private:
+    void warp(ImageOps::ImageWarp::Kind kind, int bgColor, double period = 0, double amplitude = 0,
+              double phase = 0);
     bool isLineVisible(double x1, double y1, double x2, double y2) const;
     void resetClip();
     int limitLineWidth(int lineWidth) const;

@@ -2,6 +2,7 @@
 
 #include "draw/DrawAreaImpl.h"
 #include "draw/DrawBackEnd.h"
+#include "draw/ImageOps.h"
 #include "draw/PixelImage.h"
 
 class MetaDraw;
@@ -52,6 +53,10 @@ public:
     // Row major, top row first; valid until the next size change.
     virtual const int *getPixels() const = 0;
     virtual PixelImage getImage() const = 0;
+    // A copy of the pixels, and the pixels replaced by an image of any size
+    // (the clip becomes the whole image).
+    virtual PixelBuffer copyImage() const = 0;
+    virtual void replaceImage(PixelBuffer image) = 0;
     // kTransparent outside the image.
     virtual int getPixel(int x, int y) const = 0;
     // Blends a colour (plain or dynamic) into one pixel inside the clip.

@@ -39,6 +39,10 @@ void rasterFloodFill(DrawBackEnd *b, int x, int y, int color, int borderColor) {
         r->floodFill(x, y, color, borderColor == DrawAreaImpl::kNoBorder ? -1 : borderColor);
 }
 
+void warpImage(DrawBackEnd *b, const ImageOps::ImageWarp &w) {
+    if (DrawBMP *r = asRaster(b)) r->replaceImage(ImageOps::warp(r->copyImage(), w));
+}
+
 bool encodeRaster(DrawAreaImpl *canvas, int imageType, int quality, qlx::ostream &out) {
     DrawBMP *r = asRaster(canvas->getRaster());
     if (!r) return false;
@@ -60,6 +64,7 @@ DrawAreaImpl::BackEndHooks DrawBMP::canvasHooks() {
     hooks.getPixel = rasterGetPixel;
     hooks.setPixel = rasterSetPixel;
     hooks.floodFill = rasterFloodFill;
+    hooks.warpImage = warpImage;
     hooks.encodeRaster = encodeRaster;
     hooks.encodeAlpha = encodeAlpha;
     return hooks;

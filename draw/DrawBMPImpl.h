@@ -131,6 +131,11 @@ public:
     bool isSnapshotValid() const { return snapshotValid; }
     int symbolCount() const { return (int)symbols.size(); }
 
+    // The list this raster plays.
+    MetaDraw *getMetaDraw() const { return metaDraw; }
+    PixelBuffer copyImage() const override { return copyBuffer(); }
+    void replaceImage(PixelBuffer image) override { takeBuffer(image); }
+
 private:
     struct Surface {
         int width, height;

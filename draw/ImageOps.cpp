@@ -361,4 +361,22 @@ void boxBlur(std::vector<int> &values, int width, int height, int radius) {
     pass(width, height, [&](int col, int k) { return (size_t)k * width + col; });
 }
 
+PixelBuffer warp(const PixelBuffer &src, const ImageWarp &w) {
+    switch (w.kind) {
+        case ImageWarp::kWave:
+            return waveTransform(src, w.period, w.amplitude, w.phase, w.bgColor);
+        case ImageWarp::kHCylinder:
+            return hCylinderTransform(src, w.bgColor);
+        case ImageWarp::kVCylinder:
+            return vCylinderTransform(src, w.bgColor);
+        case ImageWarp::kSphere:
+            return sphereTransform(src, w.bgColor);
+        case ImageWarp::kVTriangle:
+            return vTriangleTransform(src, w.bgColor);
+        case ImageWarp::kHTriangle:
+            return hTriangleTransform(src, w.bgColor);
+    }
+    return src;
+}
+
 }  // namespace ImageOps

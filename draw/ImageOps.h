@@ -72,6 +72,17 @@ PixelBuffer sphereTransform(const PixelBuffer &src, int bgColor);
 PixelBuffer vTriangleTransform(const PixelBuffer &src, int bgColor);
 PixelBuffer hTriangleTransform(const PixelBuffer &src, int bgColor);
 
+// A warp that has no record of its own: the canvas applies it to its raster.
+struct ImageWarp {
+    enum Kind { kWave, kHCylinder, kVCylinder, kSphere, kVTriangle, kHTriangle };
+    Kind kind;
+    int bgColor;
+    double period;     // kWave only
+    double amplitude;  // kWave only
+    double phase;      // kWave only
+};
+PixelBuffer warp(const PixelBuffer &src, const ImageWarp &w);
+
 void hFlip(PixelBuffer &image);
 void vFlip(PixelBuffer &image);
 

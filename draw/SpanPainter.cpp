@@ -24,7 +24,7 @@ int ceilLimited(double v) {
 }  // namespace
 
 SpanPainter::SpanPainter(ShapeTarget *target, int color, bool inset)
-    : target(target), color(color), half(inset ? 0.5 : 0), inset(inset) {
+    : target(target), color(color), half(inset ? 0.5 : 0) {
     antiAlias = target->isAntiAlias();
     target->getClip(&clipLeft, &clipTop, &clipRight, &clipBottom);
 }

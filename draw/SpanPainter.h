@@ -36,6 +36,5 @@ private:
     int color;
     bool antiAlias;
     double half;
-    bool inset;
     int clipLeft, clipTop, clipRight, clipBottom;
 };

@@ -115,3 +115,57 @@ VISTREL_GALLERY_SAMPLE("Raster",
                        "Effect words: raised, sunken, soft rim, flat, glass, soft lighting, "
                        "cylinder, bar",
                        "raster_effects.png", effects);
+
+namespace {
+
+// A grid with a few coloured cells: bends and turns are easy to see on it.
+DrawArea *gridScene() {
+    DrawArea *d = canvas(200, 160);
+    for (int i = 0; i <= 10; ++i) {
+        d->line(i * 20, 0, i * 20, 160, 0x5577aa, 1);
+        d->line(0, i * 16, 200, i * 16, 0x5577aa, 1);
+    }
+    d->rect(40, 32, 80, 64, kTransparent, 0xe4572e, 0);
+    d->rect(120, 96, 160, 128, kTransparent, 0x76b041, 0);
+    d->circle(100, 80, 30, 30, 0x1f3a5f, 0x80ffc914);
+    return d;
+}
+
+bool sphere(const std::string &path) {
+    DrawArea *d = gridScene();
+    d->sphereTransform(0xffffff);
+    return save(d, path);
+}
+
+bool wave(const std::string &path) {
+    DrawArea *d = gridScene();
+    d->waveTransform(80, 8, 0, 0xffffff);
+    return save(d, path);
+}
+
+bool cylinder(const std::string &path) {
+    DrawArea *d = gridScene();
+    d->vCylinderTransform(0xffffff);
+    return save(d, path);
+}
+
+bool triangle(const std::string &path) {
+    DrawArea *d = gridScene();
+    d->vTriangleTransform(0xffffff);
+    return save(d, path);
+}
+
+bool rotated(const std::string &path) {
+    DrawArea *d = gridScene();
+    d->rotate(30, 0xffffff, 100, 80, 1, 1.0);
+    return save(d, path);
+}
+
+}  // namespace
+
+VISTREL_GALLERY_SAMPLE("Image operations", "Sphere warp", "image_sphere.png", sphere);
+VISTREL_GALLERY_SAMPLE("Image operations", "Wave warp", "image_wave.png", wave);
+VISTREL_GALLERY_SAMPLE("Image operations", "Vertical cylinder warp", "image_cylinder.png",
+                       cylinder);
+VISTREL_GALLERY_SAMPLE("Image operations", "Triangle warp", "image_triangle.png", triangle);
+VISTREL_GALLERY_SAMPLE("Image operations", "Rotation by 30 degrees", "image_rotate.png", rotated);

@@ -18,6 +18,15 @@ void *operator new(size_t size) {
     throw std::bad_alloc();
 }
 
+void *operator new(size_t size, const std::nothrow_t &) noexcept {
+    ++allocationCount;
+    return malloc(size ? size : 1);
+}
+
+void operator delete(void *p, const std::nothrow_t &) noexcept {
+    free(p);
+}
+
 void operator delete(void *p) noexcept {
     free(p);
 }
