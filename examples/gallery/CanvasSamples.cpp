@@ -2,6 +2,7 @@
 #include "draw/ColorWords.h"
 #include "draw/DrawArea.h"
 #include "examples/gallery/Gallery.h"
+#include "foundation/Constants.h"
 
 // A small scene that uses most kinds of record: shapes, lines, a gradient.
 static DrawArea *drawScene() {
@@ -37,3 +38,36 @@ VISTREL_GALLERY_SAMPLE("Canvas", "A free drawing: shapes, gradient, lines and a 
                        "canvas_scene.png", canvasPicture);
 VISTREL_GALLERY_SAMPLE("Canvas", "The same drawing as a listing of its display list",
                        "canvas_scene.agf", canvasListing);
+
+// The same scene through every raster encoder, and a loaded picture tiled.
+static bool saveAs(const std::string &path) {
+    DrawArea *d = drawScene();
+    bool ok = d->out(path.c_str());
+    d->destroy();
+    return ok;
+}
+
+static bool loadedAndTiled(const std::string &path) {
+    // A small picture made here, encoded, loaded back from the bytes and tiled.
+    DrawArea *tile = DrawArea::create();
+    tile->setSize(40, 40, 0xffffff);
+    tile->circle(20, 20, 14, 14, 0x1f3a5f, 0x80e4572e);
+    MemBlock png = tile->outPNG2();
+    DrawArea *loaded = DrawArea::create();
+    bool ok = loaded->load2(png.len, png.data, kPNG);
+    tile->destroy();
+    DrawArea *d = DrawArea::create();
+    d->setSize(200, 120, 0xf4f6fa);
+    d->tile(loaded, 0);
+    ok = d->out(path.c_str()) && ok;
+    loaded->destroy();
+    d->destroy();
+    return ok;
+}
+
+VISTREL_GALLERY_SAMPLE("Formats", "GIF (palette, LZW)", "format_scene.gif", saveAs);
+VISTREL_GALLERY_SAMPLE("Formats", "JPEG, quality 80", "format_scene.jpg", saveAs);
+VISTREL_GALLERY_SAMPLE("Formats", "BMP", "format_scene.bmp", saveAs);
+VISTREL_GALLERY_SAMPLE("Formats", "WBMP (one bit a pixel)", "format_scene.wbmp", saveAs);
+VISTREL_GALLERY_SAMPLE("Formats", "A PNG loaded back from its bytes and tiled",
+                       "format_loaded_tile.png", loadedAndTiled);
