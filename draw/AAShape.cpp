@@ -63,13 +63,17 @@ void AAShape::paintOn(ShapeTarget *on, int color, bool inset, bool keepOutline) 
         for (AAEdge *e : edges) e->drawOutline(on);
 }
 
-void AAShape::fillDirect(ShapeTarget *on, int color, bool inset) {
-    if (edges.empty()) return;
-    SpanPainter painter(on, color, inset);
+bool AAShape::rowRange(const SpanPainter &painter, int *first, int *last) const {
+    if (edges.empty()) return false;
     double minY = edges[0]->minY(), maxY = edges[0]->maxY();
     for (AAEdge *e : edges) minY = std::min(minY, e->minY()), maxY = std::max(maxY, e->maxY());
+    return painter.rowRange(minY, maxY, first, last);
+}
+
+void AAShape::fillDirect(ShapeTarget *on, int color, bool inset) {
+    SpanPainter painter(on, color, inset);
     int first, last;
-    if (!painter.rowRange(minY, maxY, &first, &last)) return;
+    if (!rowRange(painter, &first, &last)) return;
     std::vector<SpanPainter::RowSpan> spans;
     for (int y = first; y <= last; ++y) {
         spans.clear();
@@ -80,11 +84,8 @@ void AAShape::fillDirect(ShapeTarget *on, int color, bool inset) {
 }
 
 void AAShape::fillGeneral(ShapeTarget *on, int color, bool inset) {
-    if (edges.empty()) return;
     SpanPainter painter(on, color, inset);
-    double minY = edges[0]->minY(), maxY = edges[0]->maxY();
-    for (AAEdge *e : edges) minY = std::min(minY, e->minY()), maxY = std::max(maxY, e->maxY());
     int first, last;
-    if (!painter.rowRange(minY, maxY, &first, &last)) return;
+    if (!rowRange(painter, &first, &last)) return;
     ActiveEdgeFiller(edges).fill(painter, first, last);
 }

@@ -6,6 +6,7 @@
 
 class AAEdge;
 class ShapeTarget;
+class SpanPainter;
 
 // A shape of straight and elliptic edges filled with the even-odd rule and
 // anti-aliased fringes.  Small shapes test every edge on each row; larger ones
@@ -28,6 +29,8 @@ public:
 
     void paintOn(ShapeTarget *on, int color, bool inset, bool keepOutline);
     // The same pixels by the direct loop or by the active-edge filler.
+    // The rows the edges reach within the painter's clip; false when none.
+    bool rowRange(const SpanPainter &painter, int *first, int *last) const;
     void fillDirect(ShapeTarget *on, int color, bool inset);
     void fillGeneral(ShapeTarget *on, int color, bool inset);
     int edgeCount() const { return (int)edges.size(); }
