@@ -17,11 +17,10 @@ FontState::FontState()
       pendingAdvance(-1),
       pendingAdvanceTo(-1),
       xOffset(0),
-      yOffset(0),
-      face(nullptr) {}
+      yOffset(0) {}
 
 FontFace *FontState::getFace(DrawArea *d) {
-    if (face) return face;
+    if (face.get()) return face.get();
     std::string name = font;
     if (d) {
         const char *resolved = d->resolveFont(font.c_str());
@@ -30,8 +29,8 @@ FontFace *FontState::getFace(DrawArea *d) {
     if (fontIndex != 0 && name.find('|') == std::string::npos &&
         name.find(';') == std::string::npos)
         name += "|" + std::to_string(fontIndex);
-    face = FontDriver::getDriver()->openFace(name.c_str(), 0, width, height);
-    return face;
+    face.reset(FontDriver::getDriver()->openFace(name.c_str(), 0, width, height));
+    return face.get();
 }
 
 double FontState::shrinkSize(double v) {
@@ -46,7 +45,7 @@ void FontState::shrink(bool up) {
     if (width > 0) width = shrinkSize(width);
     double n = height > 0 ? height : width;
     yOffset = up ? (int)std::floor(s - n * 0.9 + 0.5) : -(int)std::floor(n / 10 + 0.5);
-    face = nullptr;
+    face.reset(nullptr);
 }
 
 bool FontState::apply(const VSMLTag::Pair &p) {
@@ -84,7 +83,7 @@ bool FontState::apply(const VSMLTag::Pair &p) {
         // Sizes beyond reason fall back as in text creation.
         if (!(height >= 0 && height <= 4096)) height = 100;
         if (!(width >= 0 && width <= 4096)) width = 100;
-        face = nullptr;
+        face.reset(nullptr);
     }
     return true;
 }

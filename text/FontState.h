@@ -2,10 +2,10 @@
 
 #include <string>
 
+#include "text/FaceRef.h"
 #include "text/VSMLTag.h"
 
 class DrawArea;
-class FontFace;
 
 // The style in force while the mark-up is read.  A "font" key pushes a copy;
 // "/font" goes back to it.
@@ -22,7 +22,7 @@ public:
 
     void setFont(const std::string &name) {
         font = name.substr(0, 511);
-        face = nullptr;
+        face.reset(nullptr);
     }
     void makeSubscript() { shrink(false); }
     void makeSuperscript() { shrink(true); }
@@ -43,5 +43,6 @@ private:
     void shrink(bool up);
     static double shrinkSize(double v);
 
-    FontFace *face;
+    // Held, so that the driver keeps it while other fonts are opened.
+    FaceRef face;
 };

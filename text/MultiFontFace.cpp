@@ -22,6 +22,10 @@ MultiFontFace::MultiFontFace(LibTTFFontDriver *d, const char *s, int st, double 
     }
 }
 
+MultiFontFace::~MultiFontFace() {
+    for (FontFace *face : loaded) face->release();
+}
+
 bool MultiFontFace::loadNext() {
     while (!rest.empty()) {
         size_t end = rest.find(';');
@@ -37,6 +41,7 @@ bool MultiFontFace::loadNext() {
         FontFace *face = driver->openOne(FontName::parse(item.c_str()), style, width, height);
         lastFailed = face == nullptr;
         if (face) {
+            face->addRef();
             loaded.push_back(face);
             return true;
         }

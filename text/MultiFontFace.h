@@ -14,6 +14,9 @@ class MultiFontFace : public FontFace {
 public:
     MultiFontFace(LibTTFFontDriver *driver, const char *spec, int style, double width,
                   double height);
+    ~MultiFontFace() override;
+    MultiFontFace(const MultiFontFace &) = delete;
+    MultiFontFace &operator=(const MultiFontFace &) = delete;
 
     // False when no item of the list gives a font.
     bool hasFont() const { return !loaded.empty(); }
@@ -46,6 +49,7 @@ private:
     int style;
     double width;
     double height;
+    // Each held with a reference.
     std::vector<FontFace *> loaded;
     bool lastFailed;
     int refCount;

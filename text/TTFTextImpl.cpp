@@ -40,8 +40,11 @@ TTFTextImpl::TTFTextImpl(DrawArea *d, GlyphContainer *g, int b, int e, FontFace 
 }
 
 TTFTextImpl::~TTFTextImpl() {
+    // Face and glyph references go back under the font mutex.
+    FontLock lock;
     if (next) next->releaseText();
     ellipsis.clear();
+    face.reset(nullptr);
     glyphs->release();
 }
 
@@ -70,9 +73,9 @@ std::vector<int> TTFTextImpl::getCharacters() const {
 }
 
 void TTFTextImpl::measure() {
-    ascent = face ? face->ascender : 0;
-    descent = face ? face->descender : 0;
-    lineDistance = face ? face->lineHeight : 0;
+    ascent = face.get() ? face->ascender : 0;
+    descent = face.get() ? face->descender : 0;
+    lineDistance = face.get() ? face->lineHeight : 0;
     bool first = true;
     auto add = [&](const Glyph &g) {
         if (first) {
@@ -116,9 +119,12 @@ void TTFTextImpl::layoutVertical(int x) {
 }
 
 bool TTFTextImpl::layout(int x, int maxWidth, int maxLines) {
-    if (next) next->releaseText();
-    next = nullptr;
-    ellipsis.clear();
+    {
+        FontLock lock;
+        if (next) next->releaseText();
+        next = nullptr;
+        ellipsis.clear();
+    }
     startX = x;
     end = runEnd;
     bool fits = true;
@@ -134,7 +140,8 @@ bool TTFTextImpl::layout(int x, int maxWidth, int maxLines) {
             fits = false;
         } else if (line.overflow && line.end < runEnd) {
             if (line.nextStart < runEnd)
-                next = new TTFTextImpl(canvas, glyphs, line.nextStart, runEnd, face, vertical);
+                next =
+                    new TTFTextImpl(canvas, glyphs, line.nextStart, runEnd, face.get(), vertical);
         } else if (line.overflow) {
             fits = false;
         }
@@ -157,7 +164,7 @@ void TTFTextImpl::truncate(int maxWidth) {
     if (cut < 0) cut = runEnd;
     const Glyph *source = cut > begin ? &glyphs->at(cut - 1) : nullptr;
     Glyph dot;
-    dot.setFace(source && source->face ? source->face : face, source ? source->flags : 0);
+    dot.setFace(source && source->face ? source->face : face.get(), source ? source->flags : 0);
     if (source) dot.color = source->color;
     dot.makeGlyph('.', false);
     double dots = 3 * dot.getAdvance();

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "text/FaceRef.h"
 #include "text/Glyph.h"
 #include "text/TTFText.h"
 
@@ -62,7 +63,7 @@ private:
     int begin;
     int runEnd;  // end of the glyphs this run was given
     int end;     // end of the glyphs on its line
-    FontFace *face;
+    FaceRef face;
     bool vertical;
     std::vector<Glyph> ellipsis;
     TTFTextImpl *next;
