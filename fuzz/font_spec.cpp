@@ -25,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
         FontGlyph *g = face->getGlyph(ch, data[1] & 7);
         if (g) g->release();
         FontFace *big = face->scaled(1 + (data[0] & 3) * 0.37);
-        if (big) big->getMissingGlyph(ch, 1);
+        if (FontGlyph *missing = big ? big->getMissingGlyph(ch, 1) : nullptr) missing->release();
     }
     char report[256];
     driver->testFont(spec.c_str(), data[1] & 3, report, sizeof(report), 0, height);
