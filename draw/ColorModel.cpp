@@ -5,6 +5,7 @@
 
 #include "draw/ColorWords.h"
 #include "draw/MetaDraw.h"
+#include "draw/PixelBlend.h"
 #include "foundation/Constants.h"
 #include "foundation/Numeric.h"
 
@@ -162,21 +163,7 @@ int ColorModel::adjustBrightness(int color, double brightness) {
 }
 
 int ColorModel::adjustBrightnessARGB(int color, int k) {
-    if (hasTransparentTop(color)) return color;
-    unsigned c = (unsigned)color;
-    unsigned alpha = c & 0xFF000000u;
-    if (k < 0) return (int)alpha;
-    if (k <= kUnchanged) {
-        unsigned r = (((c >> 16) & 0xFF) * (unsigned)k) >> 10;
-        unsigned g = (((c >> 8) & 0xFF) * (unsigned)k) >> 10;
-        unsigned b = ((c & 0xFF) * (unsigned)k) >> 10;
-        return (int)(alpha | (r << 16) | (g << 8) | b);
-    }
-    // Fading towards white: m is 256 * 1024 / k, rounded.
-    unsigned m = (unsigned)((k / 2 + 262144) / k);
-    unsigned rb = 0xFF00FFu - ((((0xFF00FFu - (c & 0xFF00FFu)) * m) >> 8) & 0xFF00FFu);
-    unsigned g = 0xFF00u - ((((0xFF00u - (c & 0xFF00u)) * m) >> 8) & 0xFF00u);
-    return (int)(alpha | rb | g);
+    return (int)PixelBlend::adjustBrightness((unsigned)color, k);
 }
 
 // ---- handles and the derived cache ---------------------------------------

@@ -44,7 +44,6 @@ public:
     // The canvas's back-end hooks served by this raster and the image encoders;
     // every canvas starts with them.
     static DrawAreaImpl::BackEndHooks canvasHooks();
-    static void installCanvasHooks();
 
     ~DrawBMP() override {}
 

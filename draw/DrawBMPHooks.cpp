@@ -69,7 +69,3 @@ DrawAreaImpl::BackEndHooks DrawBMP::canvasHooks() {
     hooks.encodeAlpha = encodeAlpha;
     return hooks;
 }
-
-void DrawBMP::installCanvasHooks() {
-    DrawAreaImpl::hooks = canvasHooks();
-}

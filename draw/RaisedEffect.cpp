@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <vector>
 
 #include "draw/ColorEffects.h"
@@ -30,13 +29,14 @@ void quad(DrawArea *d, double ax, double ay, double bx, double by, double cx, do
 
 RaisedEffect::RaisedEffect(int w)
     : word(w),
+      bits(w < 0 ? 0u - (unsigned)w : (unsigned)w),
       sunken(w < 0),
       flat(Chart::isFlatBorder(w)),
       softRim(false),
       glass(0),
       light(kTopSide),
       rimFlags(0) {
-    unsigned a = (unsigned)std::abs(w == (int)0x80000000u ? 0 : w);
+    unsigned a = bits;
     if (Chart::isCylinderEffect(w) || Chart::isBarLighting(w)) return;
     softRim = (a & 0x2000) != 0;
     glass = (a >> 16) & 3;
@@ -48,9 +48,8 @@ RaisedEffect::RaisedEffect(int w)
 
 int RaisedEffect::thickness(double width, double height) const {
     if (Chart::isCylinderEffect(word) || Chart::isBarLighting(word)) return 0;
-    unsigned a = (unsigned)std::abs(word);
-    int t = a & 0xFFF;
-    if (a & 0x1000) {
+    int t = bits & 0xFFF;
+    if (bits & 0x1000) {
         double shorter = std::min(std::fabs(width), std::fabs(height));
         t = t <= 50 ? (int)(shorter * t / 100) : t - 50;
     }

@@ -34,6 +34,7 @@ private:
     void paintGlare(DrawArea *d, double x1, double y1, double x2, double y2) const;
 
     int word;
+    unsigned bits;  // the word without its sign
     bool sunken;
     bool flat;
     bool softRim;

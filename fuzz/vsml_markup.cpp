@@ -5,7 +5,6 @@
 #include <string>
 
 #include "draw/DrawArea.h"
-#include "draw/DrawBMP.h"
 #include "draw/GlobalResources.h"
 #include "text/TTFText.h"
 
@@ -14,7 +13,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     if (!ready) {
         // Keep an img tag naming a device or a huge file cheap.
         GlobalResources::setSetting("@FileLimit", "65536");
-        DrawBMP::installCanvasHooks();
         ready = true;
     }
     if (size < 4) return 0;

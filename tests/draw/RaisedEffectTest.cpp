@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <string>
 
 #include "draw/ColorEffects.h"
@@ -14,6 +15,7 @@ TEST(RaisedEffect, DecodesThicknessSidesAndKinds) {
     EXPECT_EQ(RaisedEffect(0x1000 | 10).thickness(100, 40), 4);  // 10% of the shorter side
     EXPECT_EQ(RaisedEffect(0x1000 | 57).thickness(100, 40), 7);  // above 50: pixels
     EXPECT_EQ(RaisedEffect(Chart::barLighting(0.75, 1.5)).thickness(100, 40), 0);
+    EXPECT_EQ(RaisedEffect(INT_MIN).thickness(100, 40), 0);  // no sign to drop
 
     RaisedEffect raised(4);
     EXPECT_TRUE(raised.isHighlight(RaisedEffect::kTopSide));

@@ -14,10 +14,7 @@ const unsigned kWhite = 0x00FFFFFFu;
 
 struct Canvas {
     DrawArea *d;
-    Canvas(int w, int h, int bg) : d(DrawArea::create()) {
-        DrawBMP::installCanvasHooks();
-        d->setSize(w, h, bg);
-    }
+    Canvas(int w, int h, int bg) : d(DrawArea::create()) { d->setSize(w, h, bg); }
     ~Canvas() { d->destroy(); }
     unsigned at(int x, int y) { return (unsigned)d->getPixel(x, y); }
 };
