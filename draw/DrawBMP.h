@@ -31,16 +31,12 @@ public:
     // Null on failure.
     typedef int *(*DecodeHook)(const char *data, int length, int imageType, int *width,
                                int *height);
-    // Draws items first..end-1 of a laid-out text at (x, y), through fillGlyph.
-    typedef void (*TextPainter)(MetaText *text, int first, int end, int x, int y, int color,
-                                DrawBMP *raster);
 
     // A raster serving metaDraw; a template raster (of a parent canvas) shares its
     // dynamic colours with the new one.  Either may be null.
     static DrawBMP *create(MetaDraw *metaDraw, DrawBackEnd *templateRaster);
     static void setDecodeHook(DecodeHook hook);
     static DecodeHook getDecodeHook();
-    static void setTextPainter(TextPainter painter);
     // The canvas's back-end hooks served by this raster and the image encoders;
     // every canvas starts with them.
     static DrawAreaImpl::BackEndHooks canvasHooks();

@@ -14,6 +14,7 @@
 #include "draw/ImageSniffer.h"
 #include "draw/LightingBrushes.h"
 #include "draw/LineRasterizer.h"
+#include "draw/MetaText.h"
 #include "draw/PatternBrushes.h"
 #include "draw/PixelBlend.h"
 #include "draw/PlotCollector.h"
@@ -30,7 +31,6 @@ const long long kMaxPixels = 1LL << 28;
 const long long kMaxPatternFile = 64LL << 20;
 
 DrawBMP::DecodeHook decodeHook = ImageDecoder::decodeAllocated;
-DrawBMP::TextPainter textPainter = nullptr;
 
 bool paints(int color) {
     return !isInvisible((unsigned)color) || isDynamic((unsigned)color);
@@ -66,9 +66,6 @@ void DrawBMP::setDecodeHook(DecodeHook hook) {
 }
 DrawBMP::DecodeHook DrawBMP::getDecodeHook() {
     return decodeHook;
-}
-void DrawBMP::setTextPainter(TextPainter painter) {
-    textPainter = painter;
 }
 
 DrawBMPImpl::DrawBMPImpl(MetaDraw *metaDraw, DrawBMPImpl *parent)
@@ -661,7 +658,7 @@ void DrawBMPImpl::commitSuperPixels() {
 // ---- Text ----
 
 void DrawBMPImpl::drawText(MetaText *text, int first, int end, int x, int y, int color) {
-    if (text && textPainter) textPainter(text, first, end, x, y, color, this);
+    if (text) text->paintOn(this, first, end, x, y, color);
 }
 
 void DrawBMPImpl::fillGlyph(const unsigned char *coverage, int w, int h, int pitch, int x, int y,

@@ -4,7 +4,6 @@
 #include <cstring>
 #include <vector>
 
-#include "draw/DrawBMP.h"
 #include "foundation/Unicode.h"
 #include "text/FontLock.h"
 #include "text/TTFBlocks.h"
@@ -46,7 +45,6 @@ TTFText *TTFText::create(DrawArea *d, const wchar_t *text, const char *fontName,
                          double fontHeight, double fontWidth, double angle, bool vertical,
                          int antialias, int maxWidth, int maxLines, int compactMode) {
     (void)compactMode;
-    DrawBMP::setTextPainter(TTFTextImpl::paintText);
     if (!std::isfinite(angle)) angle = 0;
     FontState style;
     style.setFont(fontName ? fontName : "");

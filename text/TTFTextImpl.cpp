@@ -245,7 +245,7 @@ void TTFTextImpl::drawAt(const TextTransform &t, double left, double top, int co
     drawUnderlines(t, left, top);
 }
 
-void TTFTextImpl::paint(DrawBMP *raster, int first, int last, int x, int y, int color) {
+void TTFTextImpl::paintOn(DrawBMP *raster, int first, int last, int x, int y, int color) {
     first = std::max(first, 0);
     last = std::min(last, getItemCount());
     for (int i = first; i < last; ++i) {
@@ -254,10 +254,4 @@ void TTFTextImpl::paint(DrawBMP *raster, int first, int last, int x, int y, int 
         int c = g.color == Glyph::kDrawColor ? color : g.color;
         GlyphRaster::paint(raster, g.glyph, x, y, g.x + g.xOffset, g.y - g.yOffset, matrix, c);
     }
-}
-
-void TTFTextImpl::paintText(MetaText *text, int first, int end, int x, int y, int color,
-                            DrawBMP *raster) {
-    TTFTextImpl *run = dynamic_cast<TTFTextImpl *>(text);
-    if (run && raster) run->paint(raster, first, end, x, y, color);
 }

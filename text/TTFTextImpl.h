@@ -34,11 +34,7 @@ public:
     int getItemCount() const override;
     int getItemColor(int i, int defaultColor) const override;
 
-    // Paints items [first, end) on a raster with the baseline origin at (x, y).
-    void paint(DrawBMP *raster, int first, int end, int x, int y, int color);
-    // The raster's hook for Text records.
-    static void paintText(MetaText *text, int first, int end, int x, int y, int color,
-                          DrawBMP *raster);
+    void paintOn(DrawBMP *raster, int first, int end, int x, int y, int color) override;
 
     int getGlyphBegin() const { return begin; }
     int getGlyphEnd() const { return end; }
