@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "draw/ImageDecoder.h"
-#include "draw/ImageEncoder.h"
+#include "draw/codec/ImageDecoder.h"
+#include "draw/codec/ImageEncoder.h"
 #include "foundation/Constants.h"
 #include "foundation/Stream.h"
 

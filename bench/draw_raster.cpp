@@ -5,8 +5,8 @@
 #include <random>
 #include <vector>
 
-#include "draw/DrawBMPImpl.h"
-#include "draw/PixelBlend.h"
+#include "draw/pixel/PixelBlend.h"
+#include "draw/raster/DrawBMPImpl.h"
 
 namespace {
 

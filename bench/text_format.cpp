@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "foundation/ChartStatics.h"
-#include "text/Formatter.h"
-#include "text/VSParser.h"
+#include "text/template/Formatter.h"
+#include "text/template/VSParser.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "draw/DrawArea.h"
-#include "text/TTFText.h"
+#include "draw/canvas/DrawArea.h"
+#include "text/layout/TTFText.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "draw/ImageDecoder.h"
-#include "draw/ImageSniffer.h"
+#include "draw/codec/ImageDecoder.h"
+#include "draw/codec/ImageSniffer.h"
 
 inline int fuzzDecode(const uint8_t *data, size_t size, int type) {
     const long kMaxPixels = 1 << 22;

@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <string>
 
-#include "text/FontDriver.h"
-#include "text/FontFace.h"
-#include "text/FontGlyph.h"
-#include "text/FontLock.h"
-#include "text/FontName.h"
+#include "text/font/FontDriver.h"
+#include "text/font/FontFace.h"
+#include "text/font/FontGlyph.h"
+#include "text/font/FontLock.h"
+#include "text/font/FontName.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     if (size < 2) return 0;

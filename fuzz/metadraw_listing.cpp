@@ -5,8 +5,8 @@
 #include <cstring>
 #include <vector>
 
-#include "draw/DrawBackEnd.h"
-#include "draw/MetaDrawImpl.h"
+#include "draw/list/DrawBackEnd.h"
+#include "draw/list/MetaDrawImpl.h"
 #include "foundation/Stream.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {

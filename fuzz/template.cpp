@@ -6,9 +6,9 @@
 #include <cstring>
 #include <string>
 
-#include "text/ExtraFields.h"
-#include "text/Formatter.h"
-#include "text/VSParser.h"
+#include "text/template/ExtraFields.h"
+#include "text/template/Formatter.h"
+#include "text/template/VSParser.h"
 
 namespace {
 

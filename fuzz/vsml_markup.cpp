@@ -4,9 +4,9 @@
 #include <cstring>
 #include <string>
 
-#include "draw/DrawArea.h"
-#include "draw/GlobalResources.h"
-#include "text/TTFText.h"
+#include "draw/canvas/DrawArea.h"
+#include "draw/canvas/GlobalResources.h"
+#include "text/layout/TTFText.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     static bool ready = false;

@@ -1,10 +1,10 @@
 #include "text/CanvasText.h"
 
-#include "draw/DrawArea.h"
-#include "text/FontDriver.h"
-#include "text/FontLock.h"
-#include "text/FontSearchPath.h"
-#include "text/TTFText.h"
+#include "draw/canvas/DrawArea.h"
+#include "text/font/FontDriver.h"
+#include "text/font/FontLock.h"
+#include "text/font/FontSearchPath.h"
+#include "text/layout/TTFText.h"
 
 namespace {
 

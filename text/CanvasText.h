@@ -1,6 +1,6 @@
 #pragma once
 
-#include "draw/CanvasTextService.h"
+#include "draw/canvas/CanvasTextService.h"
 
 // The text layer's service to the canvas: lays texts out with TTFText.
 class CanvasText : public CanvasTextService {

@@ -1,6 +1,6 @@
 // Free drawing on a canvas: the same drawing as a listing of its display list.
-#include "draw/ColorWords.h"
-#include "draw/DrawArea.h"
+#include "draw/canvas/DrawArea.h"
+#include "draw/pixel/ColorWords.h"
 #include "examples/gallery/Gallery.h"
 #include "foundation/Constants.h"
 

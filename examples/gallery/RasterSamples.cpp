@@ -1,10 +1,10 @@
 // What the raster makes of shapes, lines, dynamic colours and effect words.
 #include <cmath>
 
-#include "draw/ColorEffects.h"
-#include "draw/ColorWords.h"
-#include "draw/DrawArea.h"
-#include "draw/Palettes.h"
+#include "draw/canvas/ColorEffects.h"
+#include "draw/canvas/DrawArea.h"
+#include "draw/canvas/Palettes.h"
+#include "draw/pixel/ColorWords.h"
 #include "examples/gallery/Gallery.h"
 #include "foundation/Constants.h"
 

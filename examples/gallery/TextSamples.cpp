@@ -1,6 +1,6 @@
 // Text layout: inline mark-up, blocks, wrapping with truncation, rotation and
 // right-to-left scripts, drawn with the built-in stand-in fonts.
-#include "draw/DrawArea.h"
+#include "draw/canvas/DrawArea.h"
 #include "examples/gallery/Gallery.h"
 #include "text/CanvasText.h"
 

@@ -3,11 +3,11 @@
 #include <string>
 #include <vector>
 
-#include "draw/BMPCodec.h"
-#include "draw/GIFDecoder.h"
-#include "draw/GIFEncoder.h"
-#include "draw/ImageDecoder.h"
-#include "draw/ImageEncoder.h"
+#include "draw/codec/BMPCodec.h"
+#include "draw/codec/GIFDecoder.h"
+#include "draw/codec/GIFEncoder.h"
+#include "draw/codec/ImageDecoder.h"
+#include "draw/codec/ImageEncoder.h"
 #include "foundation/Constants.h"
 #include "tests/draw/CodecTestSupport.h"
 

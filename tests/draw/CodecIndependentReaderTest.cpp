@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "draw/ImageEncoder.h"
+#include "draw/codec/ImageEncoder.h"
 #include "foundation/Constants.h"
 #include "tests/draw/CodecTestSupport.h"
 

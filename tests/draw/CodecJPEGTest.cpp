@@ -7,9 +7,9 @@
 
 #include <jpeglib.h>
 
-#include "draw/ImageDecoder.h"
-#include "draw/ImageEncoder.h"
-#include "draw/JPEGCodec.h"
+#include "draw/codec/ImageDecoder.h"
+#include "draw/codec/ImageEncoder.h"
+#include "draw/codec/JPEGCodec.h"
 #include "foundation/Constants.h"
 #include "tests/draw/CodecTestSupport.h"
 

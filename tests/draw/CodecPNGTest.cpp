@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "draw/ImageDecoder.h"
-#include "draw/ImageEncoder.h"
-#include "draw/PNGCodec.h"
+#include "draw/codec/ImageDecoder.h"
+#include "draw/codec/ImageEncoder.h"
+#include "draw/codec/PNGCodec.h"
 #include "foundation/Constants.h"
 #include "tests/draw/CodecTestSupport.h"
 

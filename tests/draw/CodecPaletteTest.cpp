@@ -5,10 +5,10 @@
 #include <set>
 #include <vector>
 
-#include "draw/Dither.h"
-#include "draw/ImagePalette.h"
-#include "draw/Octree.h"
-#include "draw/OctreeQuantizer.h"
+#include "draw/pixel/Dither.h"
+#include "draw/pixel/ImagePalette.h"
+#include "draw/pixel/Octree.h"
+#include "draw/pixel/OctreeQuantizer.h"
 #include "tests/draw/CodecTestSupport.h"
 
 using namespace codectest;

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "draw/PixelImage.h"
+#include "draw/pixel/PixelImage.h"
 #include "foundation/Stream.h"
 
 namespace codectest {

@@ -5,8 +5,8 @@
 #include <random>
 #include <vector>
 
-#include "draw/ColorEffects.h"
-#include "draw/ColorWords.h"
+#include "draw/canvas/ColorEffects.h"
+#include "draw/pixel/ColorWords.h"
 #include "foundation/Constants.h"
 
 using namespace Chart;

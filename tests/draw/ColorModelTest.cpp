@@ -3,10 +3,10 @@
 #include <random>
 #include <vector>
 
-#include "draw/ColorEffects.h"
-#include "draw/ColorModel.h"
-#include "draw/ColorWords.h"
-#include "draw/Palettes.h"
+#include "draw/canvas/ColorEffects.h"
+#include "draw/canvas/ColorModel.h"
+#include "draw/canvas/Palettes.h"
+#include "draw/pixel/ColorWords.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "draw/ColorWords.h"
-#include "draw/Palettes.h"
+#include "draw/canvas/Palettes.h"
+#include "draw/pixel/ColorWords.h"
 
 using namespace Chart;
 

@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "draw/ColorEffects.h"
-#include "draw/ColorModel.h"
-#include "draw/ColorWords.h"
-#include "draw/MetaDraw.h"
-#include "draw/Palettes.h"
+#include "draw/canvas/ColorEffects.h"
+#include "draw/canvas/ColorModel.h"
+#include "draw/canvas/Palettes.h"
+#include "draw/list/MetaDraw.h"
+#include "draw/pixel/ColorWords.h"
 #include "foundation/Stream.h"
 
 namespace {

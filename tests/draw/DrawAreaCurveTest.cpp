@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "draw/CurveFlattener.h"
+#include "draw/canvas/CurveFlattener.h"
 #include "tests/draw/DrawAreaTestSupport.h"
 
 namespace {

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "draw/DrawAreaImpl.h"
-#include "draw/MetaDraw.h"
+#include "draw/canvas/DrawAreaImpl.h"
+#include "draw/list/MetaDraw.h"
 #include "foundation/Constants.h"
 #include "foundation/Stream.h"
 #include "tests/draw/DrawAreaTestSupport.h"

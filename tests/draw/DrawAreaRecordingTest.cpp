@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "draw/ColorWords.h"
-#include "draw/DrawAreaImpl.h"
-#include "draw/DrawBackEnd.h"
-#include "draw/MetaDraw.h"
+#include "draw/canvas/DrawAreaImpl.h"
+#include "draw/list/DrawBackEnd.h"
+#include "draw/list/MetaDraw.h"
+#include "draw/pixel/ColorWords.h"
 #include "foundation/Constants.h"
 #include "tests/draw/DrawAreaTestSupport.h"
 

@@ -3,9 +3,9 @@
 #include <cstring>
 #include <string>
 
-#include "draw/DrawAreaImpl.h"
-#include "draw/GlobalResources.h"
-#include "draw/TextAntiAlias.h"
+#include "draw/canvas/DrawAreaImpl.h"
+#include "draw/canvas/GlobalResources.h"
+#include "draw/canvas/TextAntiAlias.h"
 #include "foundation/Constants.h"
 #include "tests/draw/DrawAreaTestSupport.h"
 

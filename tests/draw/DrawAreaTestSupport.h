@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "draw/DrawArea.h"
+#include "draw/canvas/DrawArea.h"
 
 // A canvas that is released at the end of the test.
 class CanvasHolder {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "draw/ColorWords.h"
-#include "draw/DrawArea.h"
+#include "draw/canvas/DrawArea.h"
+#include "draw/pixel/ColorWords.h"
 
 // Warps work on the raster: corners fall outside a sphere and take the
 // background, the middle stays, and nothing is recorded.

@@ -3,7 +3,7 @@
 #include <clocale>
 #include <cmath>
 
-#include "draw/ColorWords.h"
+#include "draw/pixel/ColorWords.h"
 #include "foundation/Constants.h"
 #include "tests/draw/MetaDrawTestSupport.h"
 

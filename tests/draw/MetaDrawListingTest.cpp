@@ -2,11 +2,11 @@
 
 #include <cstring>
 
-#include "draw/ColorWords.h"
-#include "draw/MetaListing.h"
-#include "draw/MetaOpcodes.h"
-#include "draw/MetaRecordArg.h"
-#include "draw/MetaRecordReader.h"
+#include "draw/list/MetaListing.h"
+#include "draw/list/MetaOpcodes.h"
+#include "draw/list/MetaRecordArg.h"
+#include "draw/list/MetaRecordReader.h"
+#include "draw/pixel/ColorWords.h"
 #include "tests/draw/MetaDrawTestSupport.h"
 
 using namespace metadraw_test;

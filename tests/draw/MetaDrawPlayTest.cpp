@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "draw/ColorWords.h"
+#include "draw/pixel/ColorWords.h"
 #include "tests/draw/MetaDrawTestSupport.h"
 
 using namespace metadraw_test;

@@ -3,11 +3,11 @@
 #include <string>
 #include <vector>
 
-#include "draw/DrawArea.h"
-#include "draw/DrawBackEnd.h"
-#include "draw/MetaDraw.h"
-#include "draw/MetaDrawImpl.h"
-#include "draw/MetaText.h"
+#include "draw/canvas/DrawArea.h"
+#include "draw/list/DrawBackEnd.h"
+#include "draw/list/MetaDraw.h"
+#include "draw/list/MetaDrawImpl.h"
+#include "draw/list/MetaText.h"
 #include "foundation/Stream.h"
 
 namespace metadraw_test {

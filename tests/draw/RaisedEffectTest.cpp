@@ -3,10 +3,10 @@
 #include <climits>
 #include <string>
 
-#include "draw/ColorEffects.h"
-#include "draw/ColorWords.h"
-#include "draw/DrawArea.h"
-#include "draw/RaisedEffect.h"
+#include "draw/canvas/ColorEffects.h"
+#include "draw/canvas/DrawArea.h"
+#include "draw/canvas/RaisedEffect.h"
+#include "draw/pixel/ColorWords.h"
 #include "foundation/Constants.h"
 
 TEST(RaisedEffect, DecodesThicknessSidesAndKinds) {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "draw/PixelBlend.h"
-#include "draw/SuperPixels.h"
+#include "draw/pixel/PixelBlend.h"
+#include "draw/raster/SuperPixels.h"
 #include "tests/draw/RasterTestSupport.h"
 
 namespace {

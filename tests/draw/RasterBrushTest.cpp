@@ -2,11 +2,11 @@
 
 #include <cmath>
 
-#include "draw/GradientBrushes.h"
-#include "draw/LightingBrushes.h"
-#include "draw/PatternBrushes.h"
-#include "draw/PixelBlend.h"
-#include "draw/SimpleBrushes.h"
+#include "draw/pixel/PixelBlend.h"
+#include "draw/raster/brush/GradientBrushes.h"
+#include "draw/raster/brush/LightingBrushes.h"
+#include "draw/raster/brush/PatternBrushes.h"
+#include "draw/raster/brush/SimpleBrushes.h"
 #include "tests/draw/RasterTestSupport.h"
 
 namespace {

@@ -5,8 +5,8 @@
 #include <cstring>
 #include <string>
 
-#include "draw/ImageOps.h"
-#include "draw/PixelBlend.h"
+#include "draw/pixel/ImageOps.h"
+#include "draw/pixel/PixelBlend.h"
 #include "tests/draw/RasterTestSupport.h"
 
 namespace {

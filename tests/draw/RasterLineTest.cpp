@@ -3,8 +3,8 @@
 #include <map>
 #include <random>
 
-#include "draw/LineRasterizer.h"
-#include "draw/PixelBlend.h"
+#include "draw/pixel/PixelBlend.h"
+#include "draw/raster/scan/LineRasterizer.h"
 #include "tests/draw/RasterTestSupport.h"
 
 namespace {

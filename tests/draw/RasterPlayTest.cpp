@@ -3,9 +3,9 @@
 #include <cmath>
 #include <random>
 
-#include "draw/DrawArea.h"
-#include "draw/DrawBMP.h"
-#include "draw/MetaDraw.h"
+#include "draw/canvas/DrawArea.h"
+#include "draw/list/MetaDraw.h"
+#include "draw/raster/DrawBMP.h"
 #include "tests/draw/RasterTestSupport.h"
 
 namespace {

@@ -4,9 +4,9 @@
 #include <random>
 #include <vector>
 
-#include "draw/AALineEdge.h"
-#include "draw/AAShape.h"
-#include "draw/SpanPainter.h"
+#include "draw/raster/AAShape.h"
+#include "draw/raster/scan/AALineEdge.h"
+#include "draw/raster/scan/SpanPainter.h"
 #include "tests/draw/RasterTestSupport.h"
 
 namespace {

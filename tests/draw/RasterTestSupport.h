@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "draw/DrawBMPImpl.h"
+#include "draw/raster/DrawBMPImpl.h"
 
 // A raster of the given size and background, owned by the test.
 inline std::unique_ptr<DrawBMPImpl> makeRaster(int w, int h, int bg) {

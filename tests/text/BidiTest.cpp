@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "text/ArabicShaping.h"
-#include "text/Bidi.h"
+#include "text/unicode/ArabicShaping.h"
+#include "text/unicode/Bidi.h"
 
 TEST(Bidi, CharacterTypes) {
     EXPECT_EQ(Bidi::kL, qlx::getBidiType('A'));

@@ -1,13 +1,13 @@
-#include "text/ExtraFields.h"
+#include "text/template/ExtraFields.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "foundation/ChartStatics.h"
-#include "text/Formatter.h"
-#include "text/TemplateHelpers.h"
-#include "text/VSParser.h"
+#include "text/template/Formatter.h"
+#include "text/template/TemplateHelpers.h"
+#include "text/template/VSParser.h"
 
 namespace {
 

@@ -6,13 +6,13 @@
 #include <sstream>
 #include <string>
 
-#include "draw/DrawArea.h"
-#include "text/FontFace.h"
-#include "text/FontGlyph.h"
-#include "text/FontName.h"
-#include "text/FontSearchPath.h"
-#include "text/LibTTFFontDriver.h"
-#include "text/LibTTFSizedFontFace.h"
+#include "draw/canvas/DrawArea.h"
+#include "text/font/FontFace.h"
+#include "text/font/FontGlyph.h"
+#include "text/font/FontName.h"
+#include "text/font/FontSearchPath.h"
+#include "text/font/LibTTFFontDriver.h"
+#include "text/font/LibTTFSizedFontFace.h"
 
 namespace {
 

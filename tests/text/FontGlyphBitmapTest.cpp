@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "text/GlyphBitmap.h"
-#include "text/LcdFilter.h"
+#include "text/font/GlyphBitmap.h"
+#include "text/font/LcdFilter.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <new>
 
 #include "foundation/ChartStatics.h"
-#include "text/Formatter.h"
+#include "text/template/Formatter.h"
 
 // Counts every allocation of the test program, so a test can ask whether a call made any.
 namespace {

@@ -1,4 +1,4 @@
-#include "text/Formatter.h"
+#include "text/template/Formatter.h"
 
 #include <gtest/gtest.h>
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <string>
 
-#include "draw/DrawArea.h"
-#include "draw/DrawBMP.h"
+#include "draw/canvas/DrawArea.h"
+#include "draw/raster/DrawBMP.h"
 #include "text/CanvasText.h"
-#include "text/TTFText.h"
+#include "text/layout/TTFText.h"
 
 namespace {
 

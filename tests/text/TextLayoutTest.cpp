@@ -5,16 +5,16 @@
 #include <string>
 #include <vector>
 
-#include "draw/DrawArea.h"
-#include "text/FontDriver.h"
-#include "text/FontFace.h"
-#include "text/FontGlyph.h"
-#include "text/FontLock.h"
-#include "text/GlyphContainer.h"
-#include "text/TTFBlocks.h"
-#include "text/TTFImage.h"
-#include "text/TTFText.h"
-#include "text/TTFTextImpl.h"
+#include "draw/canvas/DrawArea.h"
+#include "text/font/FontDriver.h"
+#include "text/font/FontFace.h"
+#include "text/font/FontGlyph.h"
+#include "text/font/FontLock.h"
+#include "text/layout/GlyphContainer.h"
+#include "text/layout/TTFBlocks.h"
+#include "text/layout/TTFImage.h"
+#include "text/layout/TTFText.h"
+#include "text/layout/TTFTextImpl.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
-#include "text/VSParser.h"
+#include "text/template/VSParser.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "foundation/ChartStatics.h"
-#include "text/Formatter.h"
+#include "text/template/Formatter.h"
 
 namespace {
 

@@ -1,0 +1,787 @@
+#include "draw/list/MetaDrawImpl.h"
+
+#include <cassert>
+#include <cctype>
+#include <cstdlib>
+#include <cstring>
+
+#include "draw/canvas/DrawArea.h"
+#include "draw/list/DrawBackEnd.h"
+#include "draw/list/MetaBrush.h"
+#include "draw/list/MetaListing.h"
+#include "draw/list/MetaOpcodes.h"
+#include "draw/list/MetaPlayer.h"
+#include "draw/list/MetaRecordReader.h"
+#include "draw/list/MetaShapeImpl.h"
+#include "draw/list/MetaText.h"
+#include "draw/pixel/ColorWords.h"
+#include "foundation/CLocale.h"
+#include "foundation/Mutex.h"
+
+namespace {
+
+const int kInitialWords = 10000;
+// Deepest chain of nested lists that is followed; deeper means a loop.
+const int kMaxNesting = 64;
+// Largest scaled raster area, in pixels, that the scaling interpreter makes.
+const double kMaxScaledArea = 33554431;
+
+std::string trimLower(const char *begin, const char *end) {
+    while (begin < end && (*begin == ' ' || *begin == '\t')) ++begin;
+    while (end > begin && (end[-1] == ' ' || end[-1] == '\t')) --end;
+    std::string s(begin, end);
+    for (char &c : s) c = (char)std::tolower((unsigned char)c);
+    return s;
+}
+
+bool isDynamicHandle(int word) {
+    return ((unsigned)word & 0xffff0000u) == (unsigned)kDynamicColorBase;
+}
+
+}  // namespace
+
+MetaDraw *MetaDraw::create(DrawArea *owner) {
+    return new MetaDrawImpl(owner);
+}
+
+MetaDrawImpl::MetaDrawImpl(DrawArea *owner)
+    : id((int)qlx::getUniqueId()),
+      owner(owner),
+      parentList(nullptr),
+      optionParent(nullptr),
+      curRecord(0),
+      frozen(false),
+      frozenPos(0),
+      lineColor(0),
+      lineWidth(0),
+      lastX(0),
+      lastY(0),
+      multiStyle(false),
+      flushing(false),
+      brushDepth(0),
+      markPos(-1),
+      markSymbolCount(0),
+      sizeHintW(-1),
+      sizeHintH(-1),
+      playDepth(0),
+      bitmapScale(1.0),
+      width(0),
+      height(0),
+      lookingUpOption(false) {}
+
+MetaDrawImpl::~MetaDrawImpl() {
+    for (int i = (int)symbolLog.size() - 1; i >= 0; --i) {
+        auto it = symbols.find(symbolLog[i]);
+        if (it == symbols.end()) continue;
+        freeSymbol(it->second);
+        symbols.erase(it);
+    }
+    for (auto &entry : metaBrushes) entry.second->destroy();
+}
+
+// ---- the word stream
+
+void MetaDrawImpl::closeRecord() {
+    if (frozen) return;
+    int end = (int)words.size();
+    if (curRecord < end && words[curRecord] == 0) words[curRecord] = end - curRecord;
+}
+
+void MetaDrawImpl::beginRecord(unsigned opcode) {
+    if (!isColorOpcode(opcode)) flushLines();
+    if (frozen) {
+        // Thrown away by the next record; play stops at frozenPos.
+        words.resize(frozenPos);
+        curRecord = frozenPos;
+    } else {
+        closeRecord();
+        curRecord = (int)words.size();
+    }
+    if (words.capacity() == 0) words.reserve(kInitialWords);
+    words.push_back(0);
+    words.push_back((int)opcode);
+}
+
+void MetaDrawImpl::writeArgs(const char *format, const RecordArg *args, int count) {
+    bool fits = encodeRecordArgs(words, format, args, count);
+    assert(fits && "record arguments don't fit the format");
+    (void)fits;
+}
+
+void MetaDrawImpl::writeRecord(unsigned opcode, std::initializer_list<RecordArg> list) {
+    const MetaRecordInfo *info = findMetaOpcode(opcode);
+    assert(info && list.size() <= (size_t)MetaRecordReader::kMaxSlots);
+    RecordArg args[MetaRecordReader::kMaxSlots];
+    std::vector<std::vector<int>> registered;
+    int n = 0;
+    for (const RecordArg &a : list) {
+        args[n] = a;
+        if (a.kind == RecordArg::kColor) {
+            args[n] = RecordArg::word(registerColor(a.i));
+        } else if (a.kind == RecordArg::kColors) {
+            const int *c = static_cast<const int *>(a.p);
+            registered.emplace_back(c, c + a.n);
+            for (int &w : registered.back()) w = registerColor(w);
+            args[n] = RecordArg::words(registered.back().data(), a.n);
+        }
+        ++n;
+    }
+    beginRecord(opcode);
+    writeArgs(info->format, args, n);
+}
+
+int MetaDrawImpl::appendRecord(unsigned opcode, const int *argWords, int count) {
+    beginRecord(opcode);
+    int pos = curRecord;
+    words.insert(words.end(), argWords, argWords + count);
+    return pos;
+}
+
+void MetaDrawImpl::appendRawWords(const int *rawWords, int count) {
+    if (!rawWords || count <= 0) return;
+    flushLines();
+    closeRecord();
+    words.insert(words.end(), rawWords, rawWords + count);
+    curRecord = (int)words.size();
+}
+
+void MetaDrawImpl::prepareForReading() {
+    flushLines();
+    closeRecord();
+}
+
+void MetaDrawImpl::freeze() {
+    if (frozen) return;
+    prepareForReading();
+    frozenPos = (int)words.size();
+    frozen = true;
+}
+
+MetaDrawImpl *MetaDrawImpl::outermost() {
+    MetaDrawImpl *list = this;
+    for (int i = 0; i < kMaxNesting && list->parentList; ++i) list = list->parentList;
+    return list;
+}
+
+// ---- colours
+
+int MetaDrawImpl::registerColor(int color) {
+    int word = owner ? owner->getARGBColor(color) : color;
+    if (!isDynamicHandle(word) || brushDepth > 10) return word;
+    ++brushDepth;
+    MetaDrawImpl *list = this;
+    for (int i = 0; i < kMaxNesting && list; ++i, list = list->parentList) {
+        auto it = list->metaBrushes.find(word);
+        if (it != list->metaBrushes.end()) {
+            it->second->emit(outermost(), sizeHintW, sizeHintH);
+            break;
+        }
+    }
+    --brushDepth;
+    return word;
+}
+
+std::vector<int> MetaDrawImpl::registerPairs(IntArray pairs) {
+    std::vector<int> out(pairs.data, pairs.data + pairs.len);
+    for (size_t i = 1; i < out.size(); i += 2) out[i] = registerColor(out[i]);
+    return out;
+}
+
+void MetaDrawImpl::dropBrush(int handle) {
+    auto it = metaBrushes.find(handle);
+    if (it == metaBrushes.end()) return;
+    it->second->destroy();
+    metaBrushes.erase(it);
+}
+
+void MetaDrawImpl::defineBrush(int handle, MetaBrush *brush) {
+    dropBrush(handle);
+    metaBrushes[handle] = brush;
+}
+
+void MetaDrawImpl::defineTransformed(int handle, int source, const double m[6]) {
+    dropBrush(handle);
+    writeRecord(kOpTransformedColor,
+                {RecordArg::word(handle), RecordArg::color(source), RecordArg::number(m[0]),
+                 RecordArg::number(m[1]), RecordArg::number(m[2]), RecordArg::number(m[3]),
+                 RecordArg::number(m[4]), RecordArg::number(m[5])});
+}
+
+void MetaDrawImpl::definePreciseTransform(int handle, int source, const double m[6]) {
+    dropBrush(handle);
+    writeRecord(kOpPreciseTransformColor,
+                {RecordArg::word(handle), RecordArg::color(source), RecordArg::number(m[0]),
+                 RecordArg::number(m[1]), RecordArg::number(m[2]), RecordArg::number(m[3]),
+                 RecordArg::number(m[4]), RecordArg::number(m[5])});
+}
+
+void MetaDrawImpl::defineBrushedTexture(int handle, int color, int texture) {
+    dropBrush(handle);
+    writeRecord(kOpBrushedTextureColor,
+                {RecordArg::word(handle), RecordArg::color(color), RecordArg::integer(texture)});
+}
+
+void MetaDrawImpl::defineMultiLayer(int handle, IntArray layers) {
+    dropBrush(handle);
+    writeRecord(kOpMultiLayerColor,
+                {RecordArg::word(handle), RecordArg::colors(layers.data, layers.len)});
+}
+
+void MetaDrawImpl::defineLinearGradient(int handle, double x1, double y1, double x2, double y2,
+                                        bool periodic, IntArray pairs) {
+    dropBrush(handle);
+    std::vector<int> p = registerPairs(pairs);
+    writeRecord(kOpLinearGradientColor,
+                {RecordArg::word(handle), RecordArg::number(x1), RecordArg::number(y1),
+                 RecordArg::number(x2), RecordArg::number(y2), RecordArg::boolean(periodic),
+                 RecordArg::words(p.data(), (int)p.size())});
+}
+
+void MetaDrawImpl::defineRadialGradient(int handle, int cx, int cy, int rx, int ry, bool periodic,
+                                        IntArray pairs) {
+    dropBrush(handle);
+    std::vector<int> p = registerPairs(pairs);
+    writeRecord(kOpRadialGradientColor,
+                {RecordArg::word(handle), RecordArg::integer(cx), RecordArg::integer(cy),
+                 RecordArg::integer(rx), RecordArg::integer(ry), RecordArg::boolean(periodic),
+                 RecordArg::words(p.data(), (int)p.size())});
+}
+
+void MetaDrawImpl::defineAngleGradient(int handle, double cx, double cy, double startAngle,
+                                       double endAngle, double innerRadius, double outerRadius,
+                                       IntArray pairs) {
+    dropBrush(handle);
+    std::vector<int> p = registerPairs(pairs);
+    writeRecord(
+        kOpAngleGradientColor,
+        {RecordArg::word(handle), RecordArg::number(cx), RecordArg::number(cy),
+         RecordArg::number(startAngle), RecordArg::number(endAngle), RecordArg::number(innerRadius),
+         RecordArg::number(outerRadius), RecordArg::words(p.data(), (int)p.size())});
+}
+
+void MetaDrawImpl::writeLighting(unsigned opcode, int handle, int color, const double box[4],
+                                 bool periodic, IntArray lighting) {
+    dropBrush(handle);
+    writeRecord(opcode,
+                {RecordArg::word(handle), RecordArg::color(color), RecordArg::number(box[0]),
+                 RecordArg::number(box[1]), RecordArg::number(box[2]), RecordArg::number(box[3]),
+                 RecordArg::boolean(periodic), RecordArg::ints(lighting.data, lighting.len)});
+}
+
+void MetaDrawImpl::defineLighting(int handle, int color, double x1, double y1, double x2, double y2,
+                                  bool periodic, IntArray lighting) {
+    const double box[4] = {x1, y1, x2, y2};
+    writeLighting(kOpLightingColor, handle, color, box, periodic, lighting);
+}
+
+void MetaDrawImpl::defineLinearLighting(int handle, int color, double x1, double y1, double x2,
+                                        double y2, bool periodic, IntArray lighting) {
+    const double box[4] = {x1, y1, x2, y2};
+    writeLighting(kOpLinearLightingColor, handle, color, box, periodic, lighting);
+}
+
+void MetaDrawImpl::defineRadialLighting(int handle, int color, int cx, int cy, int rx, int ry,
+                                        IntArray lighting) {
+    dropBrush(handle);
+    writeRecord(kOpRadialLightingColor,
+                {RecordArg::word(handle), RecordArg::color(color), RecordArg::integer(cx),
+                 RecordArg::integer(cy), RecordArg::integer(rx), RecordArg::integer(ry),
+                 RecordArg::ints(lighting.data, lighting.len)});
+}
+
+void MetaDrawImpl::definePattern(int handle, int startX, int startY, int width, int height,
+                                 IntArray pixels) {
+    dropBrush(handle);
+    writeRecord(kOpPatternColor,
+                {RecordArg::word(handle), RecordArg::integer(startX), RecordArg::integer(startY),
+                 RecordArg::integer(width), RecordArg::integer(height),
+                 RecordArg::colors(pixels.data, pixels.len)});
+}
+
+void MetaDrawImpl::definePatternFile(int handle, int startX, int startY, const char *file) {
+    dropBrush(handle);
+    writeRecord(kOpPatternColor2,
+                {RecordArg::word(handle), RecordArg::integer(startX), RecordArg::integer(startY),
+                 RecordArg::string(file, file ? (int)std::strlen(file) : 0)});
+}
+
+void MetaDrawImpl::defineZone(int handle, bool vertical, int boundary, int before, int after) {
+    dropBrush(handle);
+    writeRecord(kOpZoneColor,
+                {RecordArg::word(handle), RecordArg::boolean(vertical),
+                 RecordArg::integer(boundary), RecordArg::color(before), RecordArg::color(after)});
+}
+
+void MetaDrawImpl::defineRect(int handle, double x1, double y1, double x2, double y2, int color) {
+    dropBrush(handle);
+    writeRecord(kOpRectColor,
+                {RecordArg::word(handle), RecordArg::number(x1), RecordArg::number(y1),
+                 RecordArg::number(x2), RecordArg::number(y2), RecordArg::color(color)});
+}
+
+void MetaDrawImpl::defineBrightness(int handle, int source, double factor) {
+    defineBrush(handle, new MetaBrightnessAdjustmentBrush(handle, source, factor));
+}
+
+void MetaDrawImpl::defineDash(int handle, int color, int pattern) {
+    defineBrush(handle, new MetaDashLineBrush(handle, color, pattern));
+}
+
+void MetaDrawImpl::defineRelativeGradient(int handle, double x1, double y1, double x2, double y2,
+                                          bool periodic, IntArray pairs) {
+    const double box[4] = {x1, y1, x2, y2};
+    defineBrush(handle, new MetaRelativeLinearGradientBrush(handle, box, periodic, pairs));
+}
+
+void MetaDrawImpl::defineRelativeLighting(int handle, int color, double x1, double y1, double x2,
+                                          double y2, bool periodic, IntArray lighting) {
+    const double box[4] = {x1, y1, x2, y2};
+    defineBrush(handle,
+                new MetaRelativeLinearLightingBrush(handle, color, box, periodic, lighting));
+}
+
+void MetaDrawImpl::defineXYZone(int handle, const PixelScale *scale, bool vertical, double value,
+                                int before, int after) {
+    defineBrush(handle, new MetaXYZoneBrush(handle, scale, vertical, value, before, after));
+}
+
+void MetaDrawImpl::defineScaleColor(int handle, const PixelScale *scale, bool vertical,
+                                    DoubleArray values, IntArray colors) {
+    defineBrush(handle, new MetaScaleColorBrush(handle, scale, vertical, values, colors));
+}
+
+void MetaDrawImpl::defineRegisterDependent(int handle, IntArray colors) {
+    defineBrush(handle, new RegisterDependentBrush(colors));
+}
+
+// ---- drawing records
+
+void MetaDrawImpl::setSize(int width, int height, int bgColor) {
+    // A brush that depends on the canvas size resolves it while the
+    // background colour is registered.
+    sizeHintW = width;
+    sizeHintH = height;
+    int bg = registerColor(bgColor);
+    sizeHintW = sizeHintH = -1;
+    this->width = width;
+    this->height = height;
+    writeRecord(kOpSetSize,
+                {RecordArg::integer(width), RecordArg::integer(height), RecordArg::word(bg)});
+}
+
+void MetaDrawImpl::resize(int width, int height) {
+    this->width = width;
+    this->height = height;
+    writeRecord(kOpResize, {RecordArg::integer(width), RecordArg::integer(height)});
+}
+
+void MetaDrawImpl::affineTransform(double a, double b, double c, double d, double e, double f,
+                                   int bgColor, int filter, double blur) {
+    writeRecord(kOpAffineTransform,
+                {RecordArg::number(a), RecordArg::number(b), RecordArg::number(c),
+                 RecordArg::number(d), RecordArg::number(e), RecordArg::number(f),
+                 RecordArg::color(bgColor), RecordArg::integer(filter), RecordArg::number(blur)});
+}
+
+void MetaDrawImpl::setClipRect(int left, int top, int right, int bottom) {
+    writeRecord(kOpSetClipRect, {RecordArg::integer(left), RecordArg::integer(top),
+                                 RecordArg::integer(right), RecordArg::integer(bottom)});
+}
+
+void MetaDrawImpl::setBgColor(int color) {
+    writeRecord(kOpSetBgColor, {RecordArg::color(color)});
+}
+
+void MetaDrawImpl::setBgRoundedClip(int r1, int r2, int r3, int r4, int color) {
+    writeRecord(kOpSetBgRoundedClip,
+                {RecordArg::integer(r1), RecordArg::integer(r2), RecordArg::integer(r3),
+                 RecordArg::integer(r4), RecordArg::color(color)});
+}
+
+void MetaDrawImpl::setBgDropShadow(int a, int b, int c, int d, int color) {
+    writeRecord(kOpSetBgDropShadow,
+                {RecordArg::integer(a), RecordArg::integer(b), RecordArg::integer(c),
+                 RecordArg::integer(d), RecordArg::color(color)});
+}
+
+void MetaDrawImpl::line(double x1, double y1, double x2, double y2, int color, int width) {
+    writeRecord(kOpLine,
+                {RecordArg::number(x1), RecordArg::number(y1), RecordArg::number(x2),
+                 RecordArg::number(y2), RecordArg::color(color), RecordArg::integer(width)});
+}
+
+void MetaDrawImpl::roundedRect(double x1, double y1, double x2, double y2, const int radius[4],
+                               const int edgeColor[4], int fillColor) {
+    int r[4], e[4];
+    for (int i = 0; i < 4; ++i) {
+        r[i] = radius ? radius[i] : 0;
+        e[i] = edgeColor ? edgeColor[i] : kTransparent;
+    }
+    bool uniform = r[0] == r[1] && r[1] == r[2] && r[2] == r[3] && e[0] == e[1] && e[1] == e[2] &&
+                   e[2] == e[3];
+    if (uniform) {
+        writeRecord(kOpRoundedRect,
+                    {RecordArg::number(x1), RecordArg::number(y1), RecordArg::number(x2),
+                     RecordArg::number(y2), RecordArg::integer(r[0]), RecordArg::color(e[0]),
+                     RecordArg::color(fillColor)});
+        return;
+    }
+    writeRecord(
+        kOpMultiRoundedRect,
+        {RecordArg::number(x1), RecordArg::number(y1), RecordArg::number(x2), RecordArg::number(y2),
+         RecordArg::integer(r[0]), RecordArg::integer(r[1]), RecordArg::integer(r[2]),
+         RecordArg::integer(r[3]), RecordArg::color(e[0]), RecordArg::color(e[1]),
+         RecordArg::color(e[2]), RecordArg::color(e[3]), RecordArg::color(fillColor)});
+}
+
+void MetaDrawImpl::polygon(const double *x, const double *y, int n, int edgeColor, int fillColor) {
+    if (!x || !y || n < 1) return;
+    writeRecord(kOpPolygon, {RecordArg::color(edgeColor), RecordArg::color(fillColor),
+                             RecordArg::doubles(x, n), RecordArg::doubles(y, n)});
+}
+
+void MetaDrawImpl::exactPolygon(const double *x, const double *y, int n, int fillColor) {
+    if (!x || !y || n < 1) return;
+    writeRecord(kOpExactPolygon,
+                {RecordArg::color(fillColor), RecordArg::doubles(x, n), RecordArg::doubles(y, n)});
+}
+
+MetaDraw::MetaShape *MetaDrawImpl::createShape() {
+    return new MetaShapeImpl(this);
+}
+
+void MetaDrawImpl::writeShape(int fillColor, bool inset, bool keepOutline,
+                              const std::vector<int> &pathWords) {
+    int fill = registerColor(fillColor);
+    beginRecord(kOpShape);
+    words.push_back(fill);
+    words.push_back(inset ? 1 : 0);
+    words.push_back(keepOutline ? 1 : 0);
+    words.insert(words.end(), pathWords.begin(), pathWords.end());
+}
+
+void MetaDrawImpl::gouraudTriangle(double x0, double y0, double i0, double x1, double y1, double i1,
+                                   double x2, double y2, double i2, int color) {
+    writeRecord(
+        kOpGouraudShadedTriangle,
+        {RecordArg::number(x0), RecordArg::number(y0), RecordArg::number(i0), RecordArg::number(x1),
+         RecordArg::number(y1), RecordArg::number(i1), RecordArg::number(x2), RecordArg::number(y2),
+         RecordArg::number(i2), RecordArg::color(color)});
+}
+
+void MetaDrawImpl::beginSuperPixelMode() {
+    writeRecord(kOpBeginSuperPixelMode, {});
+}
+
+void MetaDrawImpl::commitSuperPixels() {
+    writeRecord(kOpCommitSuperPixels, {});
+}
+
+void MetaDrawImpl::setSubDrawMode() {
+    writeRecord(kOpSetSubDrawMode, {});
+}
+
+void MetaDrawImpl::drawText(MetaText *text, int first, int end, int x, int y, int color) {
+    if (!text) return;
+    // Colours of the items are defined before the record that draws them.
+    int items = text->getItemCount();
+    bool have = false;
+    int lastGiven = 0;
+    for (int i = first < 0 ? 0 : first; i < end && i < items; ++i) {
+        int c = text->getItemColor(i, color);
+        if (have && c == lastGiven) continue;
+        registerColor(c);
+        lastGiven = c;
+        have = true;
+    }
+    int finalColor = registerColor(color);
+    text->retainText();
+    int symbolId = addSymbol(kTextSymbol, text, 0);
+    const RecordArg args[] = {RecordArg::integer(symbolId), RecordArg::integer(first),
+                              RecordArg::integer(end),      RecordArg::integer(x),
+                              RecordArg::integer(y),        RecordArg::word(finalColor)};
+    beginRecord(kOpText);
+    writeArgs(kTextLayout, args, 6);
+}
+
+// ---- symbols
+
+int MetaDrawImpl::addSymbol(int kind, void *object, int length) {
+    int symbolId = (int)qlx::getUniqueId();
+    symbols[symbolId] = Symbol{kind, object, length};
+    symbolLog.push_back(symbolId);
+    return symbolId;
+}
+
+int MetaDrawImpl::defineListSymbol(MetaDrawImpl *source) {
+    if (symbols.count(source->id)) return source->id;
+    if (source->owner) source->owner->retain();
+    symbols[source->id] = Symbol{kListSymbol, source, 0};
+    symbolLog.push_back(source->id);
+    beginRecord(kOpDefineSymbol);
+    words.push_back(source->id);
+    return source->id;
+}
+
+void MetaDrawImpl::freeSymbol(const Symbol &symbol) {
+    switch (symbol.kind) {
+        case kListSymbol: {
+            DrawArea *canvas = static_cast<MetaDrawImpl *>(symbol.object)->owner;
+            if (canvas) canvas->destroy();
+            break;
+        }
+        case kImageSymbol:
+            std::free(symbol.object);
+            break;
+        case kTextSymbol:
+            static_cast<MetaText *>(symbol.object)->releaseText();
+            break;
+        default:
+            break;  // pixel blocks are borrowed
+    }
+}
+
+const MetaDrawImpl::Symbol *MetaDrawImpl::findSymbol(int symbolId) const {
+    auto it = symbols.find(symbolId);
+    return it == symbols.end() ? nullptr : &it->second;
+}
+
+void MetaDrawImpl::mergeScaled(MetaDraw *source, int x, int y, int width, int height,
+                               int transparency) {
+    MetaDrawImpl *src = static_cast<MetaDrawImpl *>(source);
+    if (!src || src == this) return;
+    int symbolId = defineListSymbol(src);
+    writeRecord(
+        kOpMergeWithScaling,
+        {RecordArg::integer(symbolId), RecordArg::integer(x), RecordArg::integer(y),
+         RecordArg::integer(width), RecordArg::integer(height), RecordArg::integer(transparency)});
+}
+
+void MetaDrawImpl::mergeRotated(MetaDraw *source, double x, double y, double angle) {
+    MetaDrawImpl *src = static_cast<MetaDrawImpl *>(source);
+    if (!src || src == this) return;
+    int symbolId = defineListSymbol(src);
+    writeRecord(kOpMergeWithRotation, {RecordArg::integer(symbolId), RecordArg::number(x),
+                                       RecordArg::number(y), RecordArg::number(angle)});
+}
+
+void MetaDrawImpl::mergeBitMap(const int *pixels, int count, int width, int x, int y) {
+    if (!pixels || count <= 0 || width <= 0) return;
+    int symbolId = addSymbol(kPixelSymbol, const_cast<int *>(pixels), count);
+    writeRecord(kOpMergeBitMap, {RecordArg::integer(symbolId), RecordArg::integer(width),
+                                 RecordArg::integer(x), RecordArg::integer(y)});
+}
+
+void MetaDrawImpl::loadStream(char *data, int length, int imageType, int width, int height) {
+    if (!data) return;
+    if (length <= 0) {
+        std::free(data);
+        return;
+    }
+    int symbolId = addSymbol(kImageSymbol, data, length);
+    this->width = width;
+    this->height = height;
+    writeRecord(kOpLoadStream, {RecordArg::integer(symbolId), RecordArg::integer(imageType),
+                                RecordArg::integer(width), RecordArg::integer(height)});
+}
+
+// ---- line batching
+
+void MetaDrawImpl::addLineStyle(int color, int width) {
+    if (!lineBatch.empty()) multiStyle = true;
+    lineBatch.push_back(LineEntry{true, color, width, 0, 0});
+    lineColor = color;
+    lineWidth = width;
+}
+
+void MetaDrawImpl::moveLineTo(int color, int width, double x, double y) {
+    int c = registerColor(color);
+    if (!lineBatch.empty() && (x != lastX || y != lastY)) flushLines();
+    if (lineBatch.empty()) {
+        addLineStyle(c, width);
+        lineBatch.push_back(LineEntry{false, 0, 0, x, y});
+    } else if (c != lineColor || width != lineWidth) {
+        addLineStyle(c, width);
+    }
+    lastX = x;
+    lastY = y;
+}
+
+void MetaDrawImpl::addLine(int color, int width, double x1, double y1, double x2, double y2) {
+    moveLineTo(color, width, x1, y1);
+    lineBatch.push_back(LineEntry{false, 0, 0, x2, y2});
+    lastX = x2;
+    lastY = y2;
+}
+
+void MetaDrawImpl::flushLines() {
+    if (flushing || lineBatch.empty()) return;
+    flushing = true;
+    // A style without a point draws nothing.
+    if (lineBatch.size() >= 2) writeLineBatch();
+    lineBatch.clear();
+    multiStyle = false;
+    flushing = false;
+}
+
+void MetaDrawImpl::writeLineBatch() {
+    if (!multiStyle) {
+        std::vector<double> &xy = lineScratch;  // kept: no allocation per batch
+        xy.clear();
+        for (size_t i = 1; i < lineBatch.size(); ++i) {
+            xy.push_back(lineBatch[i].x);
+            xy.push_back(lineBatch[i].y);
+        }
+        writeRecord(kOpPolyLine,
+                    {RecordArg::word(lineBatch[0].color), RecordArg::integer(lineBatch[0].width),
+                     RecordArg::doubles(xy.data(), (int)xy.size())});
+        return;
+    }
+    beginRecord(kOpMultiLine);
+    for (const LineEntry &e : lineBatch) {
+        if (e.isStyle) {
+            const RecordArg style[] = {RecordArg::word(e.color), RecordArg::integer(e.width)};
+            words.push_back(kLineItemStyle);
+            writeArgs(findMetaLineItem(kLineItemStyle)->format, style, 2);
+        } else {
+            const RecordArg coor[] = {RecordArg::number(e.x), RecordArg::number(e.y)};
+            words.push_back(kLineItemCoor);
+            writeArgs(findMetaLineItem(kLineItemCoor)->format, coor, 2);
+        }
+    }
+}
+
+// ---- dynamic layer
+
+int MetaDrawImpl::markDynamicLayer() {
+    prepareForReading();
+    markPos = readEnd();
+    markSymbolCount = (int)symbolLog.size();
+    writeRecord(kOpInitDynamicLayer, {});
+    return markPos;
+}
+
+int MetaDrawImpl::rollback(DrawBackEnd *raster) {
+    if (markPos < 0) return 0;
+    bool restored = raster && raster->restoreSnapshot();
+    lineBatch.clear();
+    multiStyle = false;
+    if (markPos < (int)words.size()) words.resize(markPos);
+    if (frozen && frozenPos > markPos) frozenPos = markPos;
+    curRecord = markPos;
+    while ((int)symbolLog.size() > markSymbolCount) {
+        int symbolId = symbolLog.back();
+        symbolLog.pop_back();
+        auto it = symbols.find(symbolId);
+        if (it == symbols.end()) continue;
+        if (restored) raster->removeSymbol(symbolId);
+        freeSymbol(it->second);
+        symbols.erase(it);
+    }
+    for (auto &entry : metaBrushes) entry.second->forgetFrom(markPos);
+    int pos = markPos;
+    markPos = -1;
+    return pos;
+}
+
+// ---- options
+
+void MetaDrawImpl::setOutputOptions(const char *text) {
+    if (!text) text = "";
+    char mode = text[0];
+    if (mode == '+' || mode == '-')
+        ++text;
+    else
+        options.clear();
+    while (*text) {
+        const char *end = std::strchr(text, ';');
+        if (!end) end = text + std::strlen(text);
+        const char *eq = static_cast<const char *>(std::memchr(text, '=', end - text));
+        std::string key = trimLower(text, eq ? eq : end);
+        if (!key.empty()) {
+            if (mode == '-')
+                options.erase(key);
+            else
+                options[key] = eq ? trimLower(eq + 1, end) : std::string();
+        }
+        text = *end ? end + 1 : end;
+    }
+}
+
+void MetaDrawImpl::setOptionParent(MetaDraw *parent) {
+    optionParent = parent == this ? nullptr : static_cast<MetaDrawImpl *>(parent);
+}
+
+void MetaDrawImpl::setParentList(MetaDraw *parent) {
+    parentList = parent == this ? nullptr : static_cast<MetaDrawImpl *>(parent);
+}
+
+const char *MetaDrawImpl::getOption(const char *name) const {
+    if (!name || lookingUpOption) return nullptr;
+    lookingUpOption = true;  // a loop of parents ends here
+    const char *value = parentList ? parentList->getOption(name) : nullptr;
+    if (!value && optionParent) value = optionParent->getOption(name);
+    lookingUpOption = false;
+    if (value) return value;
+    auto it = options.find(trimLower(name, name + std::strlen(name)));
+    return it == options.end() ? nullptr : it->second.c_str();
+}
+
+double MetaDrawImpl::getOptionNumber(const char *name, double defaultValue) const {
+    const char *value = getOption(name);
+    if (!value || !*value) return defaultValue;
+    return qlx::atofCLocale(value);
+}
+
+// ---- reading
+
+bool MetaDrawImpl::enterReading() {
+    if (playDepth > 0) return false;
+    ++playDepth;
+    return true;
+}
+
+int MetaDrawImpl::knownWidth() const {
+    return owner ? owner->getWidth() : width;
+}
+
+int MetaDrawImpl::knownHeight() const {
+    return owner ? owner->getHeight() : height;
+}
+
+double MetaDrawImpl::playScale() const {
+    double scale = getOptionNumber("bmpscale", 1.0) * getOptionNumber("dpi", 96.0) / 96;
+    if (!(scale > 0) || (double)knownWidth() * scale * knownHeight() > kMaxScaledArea) return 1;
+    return scale;
+}
+
+int MetaDrawImpl::play(DrawBackEnd *backEnd, int fromPos) {
+    if (!backEnd || !enterReading()) return fromPos;
+    prepareForReading();
+    double scale = playScale();
+    int reached = 0;
+    if (fromPos == 0 || scale == bitmapScale) {
+        bitmapScale = scale;
+        MetaPlayer player(this, backEnd, scale);
+        reached = player.play(fromPos);
+    }
+    leaveReading();
+    return reached;
+}
+
+void MetaDrawImpl::playSymbol(DrawBackEnd *backEnd, double scale) {
+    if (!enterReading()) return;
+    prepareForReading();
+    MetaPlayer player(this, backEnd, scale);
+    player.playBody(0);
+    leaveReading();
+}
+
+void MetaDrawImpl::writeListing(qlx::ostream &out) {
+    if (!enterReading()) return;
+    prepareForReading();
+    MetaListing listing(this, out);
+    listing.write();
+    leaveReading();
+    out.flush();
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <ft2build.h>
+#include FT_FREETYPE_H
+
+#include <map>
+
+#include "text/font/FontFace.h"
+
+class FontFileEntry;
+class GlyphBitmap;
+class LibTTFFontGlyph;
+
+// One FreeType face at one size, with its rendered glyphs.  Bold and italic that
+// the file lacks are made up: a double strike and a shear.
+class LibTTFSizedFontFace : public FontFace {
+public:
+    // requestedStyle is what the caller asked for, style what must be synthesised.
+    LibTTFSizedFontFace(FontFileEntry *entry, int requestedStyle, int style, double width,
+                        double height);
+    ~LibTTFSizedFontFace() override;
+    LibTTFSizedFontFace(const LibTTFSizedFontFace &) = delete;
+    LibTTFSizedFontFace &operator=(const LibTTFSizedFontFace &) = delete;
+
+    FontFace *scaled(double factor) override;
+    FontGlyph *getGlyph(int ch, int flags) override;
+    FontGlyph *getMissingGlyph(int ch, int flags) override;
+    void addRef() override { ++refCount; }
+    void release() override { --refCount; }
+    bool isItalic() override;
+    bool isBold() override;
+    bool isSyntheticItalic() override { return (style & kItalic) != 0; }
+    bool isSyntheticBold() override { return (style & kBold) != 0; }
+    int getPixelSize() override { return pixelHeight; }
+    const char *getFontName() override;
+    const char *getPostscriptName() override;
+    const char *getFileName() override;
+    FontDriver *getDriver() override;
+
+    static int glyphKey(int ch, int flags);
+    // Whole pixels where a scaled size nearly lands, back in points.
+    static double scaledPoints(double points, double factor);
+
+private:
+    LibTTFFontGlyph *renderGlyph(int ch, int flags);
+    bool copyBitmap(FT_GlyphSlot slot, GlyphBitmap *image);
+
+    FontFileEntry *entry;
+    int requestedStyle;
+    int style;
+    double width;
+    double height;
+    int pixelWidth;
+    int pixelHeight;
+    int refCount;
+    std::map<int, LibTTFFontGlyph *> glyphs;
+};

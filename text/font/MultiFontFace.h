@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "text/font/FontFace.h"
+
+class LibTTFFontDriver;
+
+// A ";"-separated list of fonts: each character comes from the first font that
+// has it.  Fonts are opened one at a time as characters ask for them; an item
+// starting with "?" stands in only when the item before it failed.
+class MultiFontFace : public FontFace {
+public:
+    MultiFontFace(LibTTFFontDriver *driver, const char *spec, int style, double width,
+                  double height);
+    ~MultiFontFace() override;
+    MultiFontFace(const MultiFontFace &) = delete;
+    MultiFontFace &operator=(const MultiFontFace &) = delete;
+
+    // False when no item of the list gives a font.
+    bool hasFont() const { return !loaded.empty(); }
+
+    FontFace *scaled(double factor) override;
+    FontGlyph *getGlyph(int ch, int flags) override;
+    FontGlyph *getMissingGlyph(int ch, int flags) override;
+    void addRef() override { ++refCount; }
+    void release() override { --refCount; }
+    bool isItalic() override { return loaded[0]->isItalic(); }
+    bool isBold() override { return loaded[0]->isBold(); }
+    bool isSyntheticItalic() override { return loaded[0]->isSyntheticItalic(); }
+    bool isSyntheticBold() override { return loaded[0]->isSyntheticBold(); }
+    int getPixelSize() override { return loaded[0]->getPixelSize(); }
+    const char *getFontName() override { return loaded[0]->getFontName(); }
+    const char *getPostscriptName() override { return loaded[0]->getPostscriptName(); }
+    const char *getFileName() override { return loaded[0]->getFileName(); }
+    FontDriver *getDriver() override;
+
+    // The face that gives ch (with a reference on its glyph), or null.
+    FontFace *findFaceFor(int ch, int flags, FontGlyph **glyph);
+
+private:
+    // Opens the next item of the list; false when the list is used up.
+    bool loadNext();
+
+    LibTTFFontDriver *driver;
+    std::string rest;
+    std::string spec;
+    int style;
+    double width;
+    double height;
+    // Each held with a reference.
+    std::vector<FontFace *> loaded;
+    bool lastFailed;
+    int refCount;
+};
