@@ -28,7 +28,8 @@ void BM_LargeAAPolygon(benchmark::State &state) {
         double a = i * 2 * 3.14159265358979 / n, rr = i % 2 ? 300 : 480;
         x.push_back(500 + rr * std::sin(a)), y.push_back(500 - rr * std::cos(a));
     }
-    for (auto _ : state) r->polygon(kTransparent, 0x40336699, x.data(), y.data(), n);
+    for (auto _ : state)
+        r->polygon(kTransparent, 0x40336699, DoubleArray(x.data(), n), DoubleArray(y.data(), n));
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(BM_LargeAAPolygon)->Arg(8)->Arg(20)->Arg(200);
@@ -64,7 +65,7 @@ BENCHMARK(BM_ShortAALines)->Unit(benchmark::kMillisecond);
 void BM_GradientSpans(benchmark::State &state) {
     auto r = raster(1000, 1000);
     const int pairs[6] = {0, 0x00FF0000, 128, 0x0000FF00, 256, 0x000000FF};
-    r->linearGradientColor(dyn(1), 0, 0, 1000, 300, false, pairs, 6);
+    r->linearGradientColor(dyn(1), 0, 0, 1000, 300, false, IntArray(pairs, 6));
     for (auto _ : state)
         for (int y = 0; y < 1000; ++y) r->solidSpan(0, 999, y, dyn(1));
     state.SetItemsProcessed(state.iterations() * 1000000);

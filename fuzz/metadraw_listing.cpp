@@ -5,9 +5,9 @@
 #include <cstring>
 #include <vector>
 
-#include "draw/list/DrawBackEnd.h"
 #include "draw/list/MetaDrawImpl.h"
 #include "foundation/Stream.h"
+#include "tests/draw/NullBackEnd.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     if (size < 1) return 0;
@@ -25,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
 
     qlx::ostrstream out;
     list->writeListing(out);
-    DrawBackEnd nullBackEnd;
+    NullBackEnd nullBackEnd;
     int reached = list->play(&nullBackEnd, 0);
     list->play(&nullBackEnd, reached);
     list->destroyList();

@@ -2,11 +2,21 @@
 
 #include <algorithm>
 #include <cmath>
+#include <type_traits>
 
 #include "draw/list/MetaDrawImpl.h"
 #include "draw/list/MetaOpcodes.h"
 
 namespace {
+
+// A relative gradient or lighting is written as its absolute kind once the
+// canvas size is known: the two layouts must stay the same.
+template <MetaOpcode a, MetaOpcode b>
+constexpr bool sameLayout() {
+    return std::is_same<typename MetaRecordKind<a>::Call, typename MetaRecordKind<b>::Call>::value;
+}
+static_assert(sameLayout<kOpLinearGradientColor, kOpRelativeLinearGradientColor>(), "");
+static_assert(sameLayout<kOpLinearLightingColor, kOpRelativeLinearLightingColor>(), "");
 
 std::vector<int> copyInts(IntArray a) {
     return a.len > 0 ? std::vector<int>(a.data, a.data + a.len) : std::vector<int>();
@@ -26,11 +36,7 @@ void MetaRecordBrush::forgetFrom(int pos) {
     if (lastPos >= pos) lastPos = -1;
 }
 
-void MetaRecordBrush::emitRecord(MetaDrawImpl *target, unsigned opcode,
-                                 std::initializer_list<RecordArg> args) {
-    const MetaRecordInfo *info = findMetaOpcode(opcode);
-    std::vector<int> encoded;
-    if (!info || !encodeRecordArgs(encoded, info->format, args.begin(), (int)args.size())) return;
+void MetaRecordBrush::emitWords(MetaDrawImpl *target, unsigned opcode, std::vector<int> &encoded) {
     bool stillThere = lastTarget == target && lastPos >= 0 && lastPos < target->readEnd();
     if (stillThere && opcode == lastOpcode && encoded == lastWords) return;
     lastPos = target->appendRecord(opcode, encoded.data(), (int)encoded.size());
@@ -47,14 +53,12 @@ void RegisterDependentBrush::emit(MetaDrawImpl *target, int, int) {
 
 void MetaDashLineBrush::emit(MetaDrawImpl *target, int, int) {
     int c = target->registerColor(color);
-    emitRecord(target, kOpDashLineColor,
-               {RecordArg::word(handle), RecordArg::word(c), RecordArg::integer(pattern)});
+    emitRecord<kOpDashLineColor>(target, handle, c, pattern);
 }
 
 void MetaBrightnessAdjustmentBrush::emit(MetaDrawImpl *target, int, int) {
     int c = target->registerColor(source);
-    emitRecord(target, kOpAdjustBrightness,
-               {RecordArg::word(handle), RecordArg::word(c), RecordArg::number(factor)});
+    emitRecord<kOpAdjustBrightness>(target, handle, c, factor);
 }
 
 MetaRelativeLinearGradientBrush::MetaRelativeLinearGradientBrush(int handle, const double box[4],
@@ -68,11 +72,11 @@ void MetaRelativeLinearGradientBrush::emit(MetaDrawImpl *target, int widthHint, 
     std::vector<int> p = target->registerPairs(IntArray(pairs.data(), (int)pairs.size()));
     bool sized = widthHint > 0 && heightHint > 0;
     double w = sized ? widthHint : 1, h = sized ? heightHint : 1;
-    emitRecord(
-        target, sized ? kOpLinearGradientColor : kOpRelativeLinearGradientColor,
-        {RecordArg::word(handle), RecordArg::number(box[0] * w), RecordArg::number(box[1] * h),
-         RecordArg::number(box[2] * w), RecordArg::number(box[3] * h), RecordArg::boolean(periodic),
-         RecordArg::words(p.data(), (int)p.size())});
+    std::vector<int> encoded;
+    MetaRecordKind<kOpLinearGradientColor>::Call::encode(encoded, handle, box[0] * w, box[1] * h,
+                                                         box[2] * w, box[3] * h, periodic,
+                                                         IntArray(p.data(), (int)p.size()));
+    emitWords(target, sized ? kOpLinearGradientColor : kOpRelativeLinearGradientColor, encoded);
 }
 
 MetaRelativeLinearLightingBrush::MetaRelativeLinearLightingBrush(int handle, int color,
@@ -88,20 +92,18 @@ void MetaRelativeLinearLightingBrush::emit(MetaDrawImpl *target, int widthHint, 
     int c = target->registerColor(color);
     bool sized = widthHint > 0 && heightHint > 0;
     double w = sized ? widthHint : 1, h = sized ? heightHint : 1;
-    emitRecord(target, sized ? kOpLinearLightingColor : kOpRelativeLinearLightingColor,
-               {RecordArg::word(handle), RecordArg::word(c), RecordArg::number(box[0] * w),
-                RecordArg::number(box[1] * h), RecordArg::number(box[2] * w),
-                RecordArg::number(box[3] * h), RecordArg::boolean(periodic),
-                RecordArg::ints(lighting.data(), (int)lighting.size())});
+    std::vector<int> encoded;
+    MetaRecordKind<kOpLinearLightingColor>::Call::encode(
+        encoded, handle, c, box[0] * w, box[1] * h, box[2] * w, box[3] * h, periodic,
+        IntArray(lighting.data(), (int)lighting.size()));
+    emitWords(target, sized ? kOpLinearLightingColor : kOpRelativeLinearLightingColor, encoded);
 }
 
 void MetaXYZoneBrush::emit(MetaDrawImpl *target, int, int) {
     int b = target->registerColor(before);
     int a = target->registerColor(after);
     int boundary = roundToInt(scale ? scale->toPixel(value) : value);
-    emitRecord(target, kOpZoneColor,
-               {RecordArg::word(handle), RecordArg::boolean(vertical), RecordArg::integer(boundary),
-                RecordArg::word(b), RecordArg::word(a)});
+    emitRecord<kOpZoneColor>(target, handle, vertical, boundary, b, a);
 }
 
 MetaScaleColorBrush::MetaScaleColorBrush(int handle, const MetaDraw::PixelScale *scale,
@@ -125,8 +127,6 @@ void MetaScaleColorBrush::emit(MetaDrawImpl *target, int, int) {
         pairs.push_back(target->registerColor(colors[i]));
     }
     double x2 = vertical ? 0 : p0 + span, y2 = vertical ? p0 + span : 0;
-    emitRecord(target, kOpLinearGradientColor,
-               {RecordArg::word(handle), RecordArg::number(vertical ? 0 : p0),
-                RecordArg::number(vertical ? p0 : 0), RecordArg::number(x2), RecordArg::number(y2),
-                RecordArg::boolean(false), RecordArg::words(pairs.data(), (int)pairs.size())});
+    emitRecord<kOpLinearGradientColor>(target, handle, vertical ? 0 : p0, vertical ? p0 : 0, x2, y2,
+                                       false, IntArray(pairs.data(), (int)pairs.size()));
 }

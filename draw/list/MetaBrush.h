@@ -1,10 +1,10 @@
 #pragma once
 
-#include <initializer_list>
+#include <utility>
 #include <vector>
 
 #include "draw/list/MetaDraw.h"
-#include "draw/list/MetaRecordArg.h"
+#include "draw/list/MetaRecordCall.h"
 
 class MetaDrawImpl;
 
@@ -30,8 +30,16 @@ public:
 
 protected:
     MetaRecordBrush() : lastTarget(nullptr), lastPos(-1), lastOpcode(0) {}
-    // Colours in `args` must already be registered with the target.
-    void emitRecord(MetaDrawImpl *target, unsigned opcode, std::initializer_list<RecordArg> args);
+    // A record of kind `op` with the arguments of its back-end operation.
+    // Colours must already be registered with the target.
+    template <MetaOpcode op, class... A>
+    void emitRecord(MetaDrawImpl *target, A &&...args) {
+        std::vector<int> encoded;
+        MetaRecordKind<op>::Call::encode(encoded, std::forward<A>(args)...);
+        emitWords(target, op, encoded);
+    }
+    // Argument words already encoded in the layout of `opcode`.
+    void emitWords(MetaDrawImpl *target, unsigned opcode, std::vector<int> &encoded);
 
 private:
     MetaDrawImpl *lastTarget;

@@ -102,34 +102,6 @@ void MetaDrawImpl::beginRecord(unsigned opcode) {
     words.push_back((int)opcode);
 }
 
-void MetaDrawImpl::writeArgs(const char *format, const RecordArg *args, int count) {
-    bool fits = encodeRecordArgs(words, format, args, count);
-    assert(fits && "record arguments don't fit the format");
-    (void)fits;
-}
-
-void MetaDrawImpl::writeRecord(unsigned opcode, std::initializer_list<RecordArg> list) {
-    const MetaRecordInfo *info = findMetaOpcode(opcode);
-    assert(info && list.size() <= (size_t)MetaRecordReader::kMaxSlots);
-    RecordArg args[MetaRecordReader::kMaxSlots];
-    std::vector<std::vector<int>> registered;
-    int n = 0;
-    for (const RecordArg &a : list) {
-        args[n] = a;
-        if (a.kind == RecordArg::kColor) {
-            args[n] = RecordArg::word(registerColor(a.i));
-        } else if (a.kind == RecordArg::kColors) {
-            const int *c = static_cast<const int *>(a.p);
-            registered.emplace_back(c, c + a.n);
-            for (int &w : registered.back()) w = registerColor(w);
-            args[n] = RecordArg::words(registered.back().data(), a.n);
-        }
-        ++n;
-    }
-    beginRecord(opcode);
-    writeArgs(info->format, args, n);
-}
-
 int MetaDrawImpl::appendRecord(unsigned opcode, const int *argWords, int count) {
     beginRecord(opcode);
     int pos = curRecord;
@@ -187,6 +159,12 @@ std::vector<int> MetaDrawImpl::registerPairs(IntArray pairs) {
     return out;
 }
 
+std::vector<int> MetaDrawImpl::registerAll(IntArray colors) {
+    std::vector<int> out(colors.data, colors.data + colors.len);
+    for (int &c : out) c = registerColor(c);
+    return out;
+}
+
 void MetaDrawImpl::dropBrush(int handle) {
     auto it = metaBrushes.find(handle);
     if (it == metaBrushes.end()) return;
@@ -201,50 +179,41 @@ void MetaDrawImpl::defineBrush(int handle, MetaBrush *brush) {
 
 void MetaDrawImpl::defineTransformed(int handle, int source, const double m[6]) {
     dropBrush(handle);
-    writeRecord(kOpTransformedColor,
-                {RecordArg::word(handle), RecordArg::color(source), RecordArg::number(m[0]),
-                 RecordArg::number(m[1]), RecordArg::number(m[2]), RecordArg::number(m[3]),
-                 RecordArg::number(m[4]), RecordArg::number(m[5])});
+    const double t[6] = {m[0], m[1], m[2], m[3], m[4], m[5]};
+    writeRecord<kOpTransformedColor>(handle, registerColor(source), t);
 }
 
 void MetaDrawImpl::definePreciseTransform(int handle, int source, const double m[6]) {
     dropBrush(handle);
-    writeRecord(kOpPreciseTransformColor,
-                {RecordArg::word(handle), RecordArg::color(source), RecordArg::number(m[0]),
-                 RecordArg::number(m[1]), RecordArg::number(m[2]), RecordArg::number(m[3]),
-                 RecordArg::number(m[4]), RecordArg::number(m[5])});
+    const double t[6] = {m[0], m[1], m[2], m[3], m[4], m[5]};
+    writeRecord<kOpPreciseTransformColor>(handle, registerColor(source), t);
 }
 
 void MetaDrawImpl::defineBrushedTexture(int handle, int color, int texture) {
     dropBrush(handle);
-    writeRecord(kOpBrushedTextureColor,
-                {RecordArg::word(handle), RecordArg::color(color), RecordArg::integer(texture)});
+    writeRecord<kOpBrushedTextureColor>(handle, registerColor(color), texture);
 }
 
 void MetaDrawImpl::defineMultiLayer(int handle, IntArray layers) {
     dropBrush(handle);
-    writeRecord(kOpMultiLayerColor,
-                {RecordArg::word(handle), RecordArg::colors(layers.data, layers.len)});
+    std::vector<int> l = registerAll(layers);
+    writeRecord<kOpMultiLayerColor>(handle, IntArray(l.data(), (int)l.size()));
 }
 
 void MetaDrawImpl::defineLinearGradient(int handle, double x1, double y1, double x2, double y2,
                                         bool periodic, IntArray pairs) {
     dropBrush(handle);
     std::vector<int> p = registerPairs(pairs);
-    writeRecord(kOpLinearGradientColor,
-                {RecordArg::word(handle), RecordArg::number(x1), RecordArg::number(y1),
-                 RecordArg::number(x2), RecordArg::number(y2), RecordArg::boolean(periodic),
-                 RecordArg::words(p.data(), (int)p.size())});
+    writeRecord<kOpLinearGradientColor>(handle, x1, y1, x2, y2, periodic,
+                                        IntArray(p.data(), (int)p.size()));
 }
 
 void MetaDrawImpl::defineRadialGradient(int handle, int cx, int cy, int rx, int ry, bool periodic,
                                         IntArray pairs) {
     dropBrush(handle);
     std::vector<int> p = registerPairs(pairs);
-    writeRecord(kOpRadialGradientColor,
-                {RecordArg::word(handle), RecordArg::integer(cx), RecordArg::integer(cy),
-                 RecordArg::integer(rx), RecordArg::integer(ry), RecordArg::boolean(periodic),
-                 RecordArg::words(p.data(), (int)p.size())});
+    writeRecord<kOpRadialGradientColor>(handle, cx, cy, rx, ry, periodic,
+                                        IntArray(p.data(), (int)p.size()));
 }
 
 void MetaDrawImpl::defineAngleGradient(int handle, double cx, double cy, double startAngle,
@@ -252,71 +221,52 @@ void MetaDrawImpl::defineAngleGradient(int handle, double cx, double cy, double 
                                        IntArray pairs) {
     dropBrush(handle);
     std::vector<int> p = registerPairs(pairs);
-    writeRecord(
-        kOpAngleGradientColor,
-        {RecordArg::word(handle), RecordArg::number(cx), RecordArg::number(cy),
-         RecordArg::number(startAngle), RecordArg::number(endAngle), RecordArg::number(innerRadius),
-         RecordArg::number(outerRadius), RecordArg::words(p.data(), (int)p.size())});
-}
-
-void MetaDrawImpl::writeLighting(unsigned opcode, int handle, int color, const double box[4],
-                                 bool periodic, IntArray lighting) {
-    dropBrush(handle);
-    writeRecord(opcode,
-                {RecordArg::word(handle), RecordArg::color(color), RecordArg::number(box[0]),
-                 RecordArg::number(box[1]), RecordArg::number(box[2]), RecordArg::number(box[3]),
-                 RecordArg::boolean(periodic), RecordArg::ints(lighting.data, lighting.len)});
+    writeRecord<kOpAngleGradientColor>(handle, cx, cy, startAngle, endAngle, innerRadius,
+                                       outerRadius, IntArray(p.data(), (int)p.size()));
 }
 
 void MetaDrawImpl::defineLighting(int handle, int color, double x1, double y1, double x2, double y2,
                                   bool periodic, IntArray lighting) {
-    const double box[4] = {x1, y1, x2, y2};
-    writeLighting(kOpLightingColor, handle, color, box, periodic, lighting);
+    dropBrush(handle);
+    writeRecord<kOpLightingColor>(handle, registerColor(color), x1, y1, x2, y2, periodic, lighting);
 }
 
 void MetaDrawImpl::defineLinearLighting(int handle, int color, double x1, double y1, double x2,
                                         double y2, bool periodic, IntArray lighting) {
-    const double box[4] = {x1, y1, x2, y2};
-    writeLighting(kOpLinearLightingColor, handle, color, box, periodic, lighting);
+    dropBrush(handle);
+    writeRecord<kOpLinearLightingColor>(handle, registerColor(color), x1, y1, x2, y2, periodic,
+                                        lighting);
 }
 
 void MetaDrawImpl::defineRadialLighting(int handle, int color, int cx, int cy, int rx, int ry,
                                         IntArray lighting) {
     dropBrush(handle);
-    writeRecord(kOpRadialLightingColor,
-                {RecordArg::word(handle), RecordArg::color(color), RecordArg::integer(cx),
-                 RecordArg::integer(cy), RecordArg::integer(rx), RecordArg::integer(ry),
-                 RecordArg::ints(lighting.data, lighting.len)});
+    writeRecord<kOpRadialLightingColor>(handle, registerColor(color), cx, cy, rx, ry, lighting);
 }
 
 void MetaDrawImpl::definePattern(int handle, int startX, int startY, int width, int height,
                                  IntArray pixels) {
     dropBrush(handle);
-    writeRecord(kOpPatternColor,
-                {RecordArg::word(handle), RecordArg::integer(startX), RecordArg::integer(startY),
-                 RecordArg::integer(width), RecordArg::integer(height),
-                 RecordArg::colors(pixels.data, pixels.len)});
+    std::vector<int> p = registerAll(pixels);
+    writeRecord<kOpPatternColor>(handle, startX, startY, width, height,
+                                 IntArray(p.data(), (int)p.size()));
 }
 
 void MetaDrawImpl::definePatternFile(int handle, int startX, int startY, const char *file) {
     dropBrush(handle);
-    writeRecord(kOpPatternColor2,
-                {RecordArg::word(handle), RecordArg::integer(startX), RecordArg::integer(startY),
-                 RecordArg::string(file, file ? (int)std::strlen(file) : 0)});
+    writeRecord<kOpPatternColor2>(handle, startX, startY, file);
 }
 
 void MetaDrawImpl::defineZone(int handle, bool vertical, int boundary, int before, int after) {
     dropBrush(handle);
-    writeRecord(kOpZoneColor,
-                {RecordArg::word(handle), RecordArg::boolean(vertical),
-                 RecordArg::integer(boundary), RecordArg::color(before), RecordArg::color(after)});
+    int b = registerColor(before);
+    int a = registerColor(after);
+    writeRecord<kOpZoneColor>(handle, vertical, boundary, b, a);
 }
 
 void MetaDrawImpl::defineRect(int handle, double x1, double y1, double x2, double y2, int color) {
     dropBrush(handle);
-    writeRecord(kOpRectColor,
-                {RecordArg::word(handle), RecordArg::number(x1), RecordArg::number(y1),
-                 RecordArg::number(x2), RecordArg::number(y2), RecordArg::color(color)});
+    writeRecord<kOpRectColor>(handle, x1, y1, x2, y2, registerColor(color));
 }
 
 void MetaDrawImpl::defineBrightness(int handle, int source, double factor) {
@@ -365,49 +315,38 @@ void MetaDrawImpl::setSize(int width, int height, int bgColor) {
     sizeHintW = sizeHintH = -1;
     this->width = width;
     this->height = height;
-    writeRecord(kOpSetSize,
-                {RecordArg::integer(width), RecordArg::integer(height), RecordArg::word(bg)});
+    writeRecord<kOpSetSize>(width, height, bg);
 }
 
 void MetaDrawImpl::resize(int width, int height) {
     this->width = width;
     this->height = height;
-    writeRecord(kOpResize, {RecordArg::integer(width), RecordArg::integer(height)});
+    writeRecord<kOpResize>(width, height);
 }
 
 void MetaDrawImpl::affineTransform(double a, double b, double c, double d, double e, double f,
                                    int bgColor, int filter, double blur) {
-    writeRecord(kOpAffineTransform,
-                {RecordArg::number(a), RecordArg::number(b), RecordArg::number(c),
-                 RecordArg::number(d), RecordArg::number(e), RecordArg::number(f),
-                 RecordArg::color(bgColor), RecordArg::integer(filter), RecordArg::number(blur)});
+    writeRecord<kOpAffineTransform>(a, b, c, d, e, f, registerColor(bgColor), filter, blur);
 }
 
 void MetaDrawImpl::setClipRect(int left, int top, int right, int bottom) {
-    writeRecord(kOpSetClipRect, {RecordArg::integer(left), RecordArg::integer(top),
-                                 RecordArg::integer(right), RecordArg::integer(bottom)});
+    writeRecord<kOpSetClipRect>(left, top, right, bottom);
 }
 
 void MetaDrawImpl::setBgColor(int color) {
-    writeRecord(kOpSetBgColor, {RecordArg::color(color)});
+    writeRecord<kOpSetBgColor>(registerColor(color));
 }
 
 void MetaDrawImpl::setBgRoundedClip(int r1, int r2, int r3, int r4, int color) {
-    writeRecord(kOpSetBgRoundedClip,
-                {RecordArg::integer(r1), RecordArg::integer(r2), RecordArg::integer(r3),
-                 RecordArg::integer(r4), RecordArg::color(color)});
+    writeRecord<kOpSetBgRoundedClip>(r1, r2, r3, r4, registerColor(color));
 }
 
 void MetaDrawImpl::setBgDropShadow(int a, int b, int c, int d, int color) {
-    writeRecord(kOpSetBgDropShadow,
-                {RecordArg::integer(a), RecordArg::integer(b), RecordArg::integer(c),
-                 RecordArg::integer(d), RecordArg::color(color)});
+    writeRecord<kOpSetBgDropShadow>(a, b, c, d, registerColor(color));
 }
 
 void MetaDrawImpl::line(double x1, double y1, double x2, double y2, int color, int width) {
-    writeRecord(kOpLine,
-                {RecordArg::number(x1), RecordArg::number(y1), RecordArg::number(x2),
-                 RecordArg::number(y2), RecordArg::color(color), RecordArg::integer(width)});
+    writeRecord<kOpLine>(x1, y1, x2, y2, registerColor(color), width);
 }
 
 void MetaDrawImpl::roundedRect(double x1, double y1, double x2, double y2, const int radius[4],
@@ -420,30 +359,23 @@ void MetaDrawImpl::roundedRect(double x1, double y1, double x2, double y2, const
     bool uniform = r[0] == r[1] && r[1] == r[2] && r[2] == r[3] && e[0] == e[1] && e[1] == e[2] &&
                    e[2] == e[3];
     if (uniform) {
-        writeRecord(kOpRoundedRect,
-                    {RecordArg::number(x1), RecordArg::number(y1), RecordArg::number(x2),
-                     RecordArg::number(y2), RecordArg::integer(r[0]), RecordArg::color(e[0]),
-                     RecordArg::color(fillColor)});
+        int edge = registerColor(e[0]);
+        writeRecord<kOpRoundedRect>(x1, y1, x2, y2, r[0], edge, registerColor(fillColor));
         return;
     }
-    writeRecord(
-        kOpMultiRoundedRect,
-        {RecordArg::number(x1), RecordArg::number(y1), RecordArg::number(x2), RecordArg::number(y2),
-         RecordArg::integer(r[0]), RecordArg::integer(r[1]), RecordArg::integer(r[2]),
-         RecordArg::integer(r[3]), RecordArg::color(e[0]), RecordArg::color(e[1]),
-         RecordArg::color(e[2]), RecordArg::color(e[3]), RecordArg::color(fillColor)});
+    for (int &c : e) c = registerColor(c);
+    writeRecord<kOpMultiRoundedRect>(x1, y1, x2, y2, r, e, registerColor(fillColor));
 }
 
 void MetaDrawImpl::polygon(const double *x, const double *y, int n, int edgeColor, int fillColor) {
     if (!x || !y || n < 1) return;
-    writeRecord(kOpPolygon, {RecordArg::color(edgeColor), RecordArg::color(fillColor),
-                             RecordArg::doubles(x, n), RecordArg::doubles(y, n)});
+    int edge = registerColor(edgeColor);
+    writeRecord<kOpPolygon>(edge, registerColor(fillColor), DoubleArray(x, n), DoubleArray(y, n));
 }
 
 void MetaDrawImpl::exactPolygon(const double *x, const double *y, int n, int fillColor) {
     if (!x || !y || n < 1) return;
-    writeRecord(kOpExactPolygon,
-                {RecordArg::color(fillColor), RecordArg::doubles(x, n), RecordArg::doubles(y, n)});
+    writeRecord<kOpExactPolygon>(registerColor(fillColor), DoubleArray(x, n), DoubleArray(y, n));
 }
 
 MetaDraw::MetaShape *MetaDrawImpl::createShape() {
@@ -454,31 +386,26 @@ void MetaDrawImpl::writeShape(int fillColor, bool inset, bool keepOutline,
                               const std::vector<int> &pathWords) {
     int fill = registerColor(fillColor);
     beginRecord(kOpShape);
-    words.push_back(fill);
-    words.push_back(inset ? 1 : 0);
-    words.push_back(keepOutline ? 1 : 0);
+    putSlots(words, fill, inset, keepOutline);
     words.insert(words.end(), pathWords.begin(), pathWords.end());
 }
 
 void MetaDrawImpl::gouraudTriangle(double x0, double y0, double i0, double x1, double y1, double i1,
                                    double x2, double y2, double i2, int color) {
-    writeRecord(
-        kOpGouraudShadedTriangle,
-        {RecordArg::number(x0), RecordArg::number(y0), RecordArg::number(i0), RecordArg::number(x1),
-         RecordArg::number(y1), RecordArg::number(i1), RecordArg::number(x2), RecordArg::number(y2),
-         RecordArg::number(i2), RecordArg::color(color)});
+    const double v[9] = {x0, y0, i0, x1, y1, i1, x2, y2, i2};
+    writeRecord<kOpGouraudShadedTriangle>(v, registerColor(color));
 }
 
 void MetaDrawImpl::beginSuperPixelMode() {
-    writeRecord(kOpBeginSuperPixelMode, {});
+    writeRecord<kOpBeginSuperPixelMode>();
 }
 
 void MetaDrawImpl::commitSuperPixels() {
-    writeRecord(kOpCommitSuperPixels, {});
+    writeRecord<kOpCommitSuperPixels>();
 }
 
 void MetaDrawImpl::setSubDrawMode() {
-    writeRecord(kOpSetSubDrawMode, {});
+    writeRecord<kOpSetSubDrawMode>();
 }
 
 void MetaDrawImpl::drawText(MetaText *text, int first, int end, int x, int y, int color) {
@@ -497,11 +424,8 @@ void MetaDrawImpl::drawText(MetaText *text, int first, int end, int x, int y, in
     int finalColor = registerColor(color);
     text->retainText();
     int symbolId = addSymbol(kTextSymbol, text, 0);
-    const RecordArg args[] = {RecordArg::integer(symbolId), RecordArg::integer(first),
-                              RecordArg::integer(end),      RecordArg::integer(x),
-                              RecordArg::integer(y),        RecordArg::word(finalColor)};
     beginRecord(kOpText);
-    writeArgs(kTextLayout, args, 6);
+    putSlots(words, symbolId, first, end, x, y, finalColor);
 }
 
 // ---- symbols
@@ -519,7 +443,7 @@ int MetaDrawImpl::defineListSymbol(MetaDrawImpl *source) {
     symbols[source->id] = Symbol{kListSymbol, source, 0};
     symbolLog.push_back(source->id);
     beginRecord(kOpDefineSymbol);
-    words.push_back(source->id);
+    putSlots(words, source->id);
     return source->id;
 }
 
@@ -551,25 +475,21 @@ void MetaDrawImpl::mergeScaled(MetaDraw *source, int x, int y, int width, int he
     MetaDrawImpl *src = static_cast<MetaDrawImpl *>(source);
     if (!src || src == this) return;
     int symbolId = defineListSymbol(src);
-    writeRecord(
-        kOpMergeWithScaling,
-        {RecordArg::integer(symbolId), RecordArg::integer(x), RecordArg::integer(y),
-         RecordArg::integer(width), RecordArg::integer(height), RecordArg::integer(transparency)});
+    writeRecord<kOpMergeWithScaling>(symbolId, x, y, width, height, transparency);
 }
 
 void MetaDrawImpl::mergeRotated(MetaDraw *source, double x, double y, double angle) {
     MetaDrawImpl *src = static_cast<MetaDrawImpl *>(source);
     if (!src || src == this) return;
     int symbolId = defineListSymbol(src);
-    writeRecord(kOpMergeWithRotation, {RecordArg::integer(symbolId), RecordArg::number(x),
-                                       RecordArg::number(y), RecordArg::number(angle)});
+    writeRecord<kOpMergeWithRotation>(symbolId, x, y, angle);
 }
 
 void MetaDrawImpl::mergeBitMap(const int *pixels, int count, int width, int x, int y) {
     if (!pixels || count <= 0 || width <= 0) return;
     int symbolId = addSymbol(kPixelSymbol, const_cast<int *>(pixels), count);
-    writeRecord(kOpMergeBitMap, {RecordArg::integer(symbolId), RecordArg::integer(width),
-                                 RecordArg::integer(x), RecordArg::integer(y)});
+    beginRecord(kOpMergeBitMap);
+    putSlots(words, symbolId, width, x, y);
 }
 
 void MetaDrawImpl::loadStream(char *data, int length, int imageType, int width, int height) {
@@ -581,8 +501,8 @@ void MetaDrawImpl::loadStream(char *data, int length, int imageType, int width, 
     int symbolId = addSymbol(kImageSymbol, data, length);
     this->width = width;
     this->height = height;
-    writeRecord(kOpLoadStream, {RecordArg::integer(symbolId), RecordArg::integer(imageType),
-                                RecordArg::integer(width), RecordArg::integer(height)});
+    beginRecord(kOpLoadStream);
+    putSlots(words, symbolId, imageType, width, height);
 }
 
 // ---- line batching
@@ -632,21 +552,16 @@ void MetaDrawImpl::writeLineBatch() {
             xy.push_back(lineBatch[i].x);
             xy.push_back(lineBatch[i].y);
         }
-        writeRecord(kOpPolyLine,
-                    {RecordArg::word(lineBatch[0].color), RecordArg::integer(lineBatch[0].width),
-                     RecordArg::doubles(xy.data(), (int)xy.size())});
+        writeRecord<kOpPolyLine>(lineBatch[0].color, lineBatch[0].width,
+                                 DoubleArray(xy.data(), (int)xy.size()));
         return;
     }
     beginRecord(kOpMultiLine);
     for (const LineEntry &e : lineBatch) {
         if (e.isStyle) {
-            const RecordArg style[] = {RecordArg::word(e.color), RecordArg::integer(e.width)};
-            words.push_back(kLineItemStyle);
-            writeArgs(findMetaLineItem(kLineItemStyle)->format, style, 2);
+            putSlots(words, (int)kLineItemStyle, e.color, e.width);
         } else {
-            const RecordArg coor[] = {RecordArg::number(e.x), RecordArg::number(e.y)};
-            words.push_back(kLineItemCoor);
-            writeArgs(findMetaLineItem(kLineItemCoor)->format, coor, 2);
+            putSlots(words, (int)kLineItemCoor, e.x, e.y);
         }
     }
 }
@@ -657,7 +572,7 @@ int MetaDrawImpl::markDynamicLayer() {
     prepareForReading();
     markPos = readEnd();
     markSymbolCount = (int)symbolLog.size();
-    writeRecord(kOpInitDynamicLayer, {});
+    writeRecord<kOpInitDynamicLayer>();
     return markPos;
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <initializer_list>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "draw/list/MetaDraw.h"
-#include "draw/list/MetaRecordArg.h"
+#include "draw/list/MetaRecordCall.h"
 
 class MetaBrush;
 
@@ -116,10 +116,17 @@ public:
     // Translates a colour and writes the definition of a dynamic colour that
     // hasn't been written yet.  Returns the final word.
     int registerColor(int color);
-    // Registers `Color` arguments, then writes the record.
-    void writeRecord(unsigned opcode, std::initializer_list<RecordArg> args);
+    // Writes a record of kind `op`; the arguments are those of the record's
+    // back-end operation, colours already registered.
+    template <MetaOpcode op, class... A>
+    void writeRecord(A &&...args) {
+        beginRecord(op);
+        MetaRecordKind<op>::Call::encode(words, std::forward<A>(args)...);
+    }
     // Copy of gradient pairs with every colour (odd entry) registered.
     std::vector<int> registerPairs(IntArray pairs);
+    // Copy with every colour registered.
+    std::vector<int> registerAll(IntArray colors);
     // Writes a Shape record around already encoded path items.
     void writeShape(int fillColor, bool inset, bool keepOutline, const std::vector<int> &pathWords);
     // Writes a record whose argument words are already encoded; returns its position.
@@ -146,7 +153,6 @@ private:
 
     void beginRecord(unsigned opcode);
     void closeRecord();
-    void writeArgs(const char *format, const RecordArg *args, int count);
     void defineBrush(int handle, MetaBrush *brush);
     void dropBrush(int handle);
     int defineListSymbol(MetaDrawImpl *source);

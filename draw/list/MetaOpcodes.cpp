@@ -2,55 +2,13 @@
 
 namespace {
 
-const MetaRecordInfo kDrawingRecords[] = {
-    {kOpSetSize, "SetSize", "iix", "ss."},
-    {kOpResize, "Resize", "ii", "ss"},
-    {kOpAffineTransform, "AffineTransform", "ddddddxid", "....ss..."},
-    {kOpSetClipRect, "SetClipRect", "iiii", "ssss"},
-    {kOpSetBgColor, "SetBgColor", "x", "."},
-    {kOpSetBgRoundedClip, "SetBgRoundedClip", "iiiix", "ssss."},
-    {kOpSetBgDropShadow, "SetBgDropShadow", "iiiix", "ssss."},
-    {kOpLine, "Line", "ddddxi", "ssss.s"},
-    {kOpPolyLine, "PolyLine", "xiD", ".ss"},
-    {kOpMultiLine, "MultiLine", "?", "."},
-    {kOpRoundedRect, "RoundedRect", "ddddixx", "sssss.."},
-    {kOpMultiRoundedRect, "MultiRoundedRect", "ddddiiiixxxxx", "ssssssss....."},
-    {kOpPolygon, "Polygon", "xxDD", "..ss"},
-    {kOpExactPolygon, "ExactPolygon", "xDD", ".ss"},
-    {kOpShape, "Shape", "?", "."},
-    {kOpGouraudShadedTriangle, "GouraudShadedTriangle", "dddddddddx", "ss.ss.ss.."},
-    {kOpBeginSuperPixelMode, "BeginSuperPixelMode", "", ""},
-    {kOpCommitSuperPixels, "CommitSuperPixels", "", ""},
-    {kOpText, "Text", "?", "."},
-    {kOpDefineSymbol, "DefineSymbol", "?", "."},
-    {kOpMergeWithScaling, "MergeWithScaling", "iiiiii", ".ssss."},
-    {kOpMergeWithRotation, "MergeWithRotation", "iddd", ".ss."},
-    {kOpMergeBitMap, "MergeBitMap", "iiii", "..ss"},
-    {kOpLoadStream, "LoadStream", "iiii", "...."},
-    {kOpInitDynamicLayer, "InitDynamicLayer", "", ""},
-};
+#define VISTREL_META_ROW(name, code, format, scaled, reading, operation, params) \
+    {kOp##name, #name, format, scaled},
 
-const MetaRecordInfo kColorRecords[] = {
-    {kOpSetSubDrawMode, "SetSubDrawMode", "", ""},
-    {kOpAdjustBrightness, "AdjustBrightness", "xxd", "..."},
-    {kOpTransformedColor, "TransformedColor", "xxdddddd", "......ss"},
-    {kOpPreciseTransformColor, "PreciseTransformColor", "xxdddddd", "......ss"},
-    {kOpBrushedTextureColor, "BrushedTextureColor", "xxi", "..."},
-    {kOpMultiLayerColor, "MultiLayerColor", "xX", ".."},
-    {kOpDashLineColor, "DashLineColor", "xxi", "..."},
-    {kOpLinearGradientColor, "LinearGradientColor", "xddddbX", ".ssss.."},
-    {kOpRadialGradientColor, "RadialGradientColor", "xiiiibX", ".ssss.."},
-    {kOpAngleGradientColor, "AngleGradientColor", "xddddddX", ".ss..ss."},
-    {kOpRelativeLinearGradientColor, "RelativeLinearGradientColor", "xddddbX", "......."},
-    {kOpLightingColor, "LightingColor", "xxddddbI", "..ssss.."},
-    {kOpLinearLightingColor, "LinearLightingColor", "xxddddbI", "..ssss.."},
-    {kOpRadialLightingColor, "RadialLightingColor", "xxiiiiI", "..ssss."},
-    {kOpRelativeLinearLightingColor, "RelativeLinearLightingColor", "xxddddbI", "........"},
-    {kOpPatternColor, "PatternColor", "xiiiiX", ".ss..."},
-    {kOpPatternColor2, "PatternColor2", "xiis", ".ss."},
-    {kOpZoneColor, "ZoneColor", "xbixx", "..s.."},
-    {kOpRectColor, "RectColor", "xddddx", ".ssss."},
-};
+constexpr MetaRecordInfo kDrawingRecords[] = {VISTREL_META_DRAWING_RECORDS(VISTREL_META_ROW)};
+constexpr MetaRecordInfo kColorRecords[] = {VISTREL_META_COLOR_RECORDS(VISTREL_META_ROW)};
+
+#undef VISTREL_META_ROW
 
 const MetaRecordInfo kPathTypes[] = {
     {kPathLine, "Line", "ddddxb", "ssss.."},
@@ -62,6 +20,25 @@ const MetaRecordInfo kLineItems[] = {
     {kLineItemStyle, "style", "xi", ".s"},
     {kLineItemCoor, "coor", "dd", "ss"},
 };
+
+constexpr int length(const char *s) {
+    int n = 0;
+    while (s[n]) ++n;
+    return n;
+}
+
+// Lookups index the tables by code: each table must run 0, 1, 2... below its
+// flag, and every format must have its scaling marks.
+template <int N>
+constexpr bool wellFormed(const MetaRecordInfo (&table)[N]) {
+    for (int i = 0; i < N; ++i)
+        if ((table[i].code & ~kOpColorFlag) != (unsigned)i ||
+            length(table[i].format) != length(table[i].scaled))
+            return false;
+    return true;
+}
+static_assert(wellFormed(kDrawingRecords), "drawing records out of order");
+static_assert(wellFormed(kColorRecords), "colour records out of order");
 
 template <int N>
 const MetaRecordInfo *findIn(const MetaRecordInfo (&table)[N], unsigned index) {

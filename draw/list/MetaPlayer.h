@@ -3,6 +3,8 @@
 #include <vector>
 
 #include "draw/list/DrawBackEnd.h"
+#include "draw/list/GlyphText.h"
+#include "draw/list/MetaOpcodes.h"
 #include "draw/list/MetaRecordReader.h"
 
 class MetaDrawImpl;
@@ -20,14 +22,13 @@ public:
     int playBody(int fromPos);
 
 private:
-    void playRecord(unsigned opcode, const char *format, const char *scaled);
-    void dispatch(unsigned opcode);
-    void playMultiLine();
-    void playShape();
-    void playText();
-    void playDefineSymbol();
-    void playMergeBitMap();
-    void playLoadStream();
+    void playRecord(MetaOpcode opcode);
+    // A record read by its format into the parameters of its operation.
+    template <MetaOpcode op>
+    void playArgs();
+    // A record with a reader of its own.
+    template <MetaOpcode op>
+    void playOwn();
     bool decode(const char *format, const char *scaled, unsigned number);
     void fault(const char *literal, const char *format, unsigned number);
 
@@ -37,4 +38,5 @@ private:
     MetaRecordReader reader;
     std::vector<MetaLineEntry> lineItems;
     std::vector<MetaPathItem> pathItems;
+    GlyphText glyphs;
 };

@@ -21,7 +21,7 @@ public:
     void destroy() override { delete this; }
 
 private:
-    void addItem(unsigned type, const double *v, int count, int color, bool flag);
+    void addItem(unsigned type, const double *v, int color, bool flag);
 
     MetaDrawImpl *list;
     std::vector<int> pathWords;

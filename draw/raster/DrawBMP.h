@@ -6,7 +6,6 @@
 #include "draw/pixel/PixelImage.h"
 
 class MetaDraw;
-class MetaText;
 
 // The raster back end: plays display-list records into 32-bit pixels in the
 // engine's colour word (top byte 0 opaque, 255 transparent).

@@ -10,9 +10,9 @@
 
 #include "draw/codec/ImageDecoder.h"
 #include "draw/codec/ImageSniffer.h"
-#include "draw/list/MetaText.h"
 #include "draw/pixel/PixelBlend.h"
 #include "draw/raster/AAShape.h"
+#include "draw/raster/GlyphRaster.h"
 #include "draw/raster/PlotCollector.h"
 #include "draw/raster/brush/GradientBrushes.h"
 #include "draw/raster/brush/LightingBrushes.h"
@@ -391,10 +391,12 @@ void DrawBMPImpl::setBgDropShadow(int offsetX, int offsetY, int blurRadius, int,
 
 void DrawBMPImpl::line(double x1, double y1, double x2, double y2, int color, int lineWidth) {
     const double xy[4] = {x1, y1, x2, y2};
-    polyLine(color, lineWidth, xy, 2);
+    polyLine(color, lineWidth, DoubleArray(xy, 4));
 }
 
-void DrawBMPImpl::polyLine(int color, int lineWidth, const double *xy, int pointCount) {
+void DrawBMPImpl::polyLine(int color, int lineWidth, DoubleArray points) {
+    const double *xy = points.data;
+    int pointCount = points.len / 2;
     curColor = color, curWidth = lineWidth;
     if (!xy || pointCount < 1 || !paints(color) || lineWidth < 1) return;
     curX = xy[2 * pointCount - 2], curY = xy[2 * pointCount - 1];
@@ -488,11 +490,11 @@ void DrawBMPImpl::strokeWide(const double *xy, int pointCount, int color, int li
     mask.paintOn(this, paintColor);
 }
 
-void DrawBMPImpl::multiLine(const MetaLineItem2 *items, int count) {
+void DrawBMPImpl::multiLine(const MetaLineEntry *items, int count) {
     std::vector<double> run;
     int color = curColor, lineWidth = curWidth;
     auto flush = [&]() {
-        if (run.size() >= 4) polyLine(color, lineWidth, run.data(), (int)run.size() / 2);
+        if (run.size() >= 4) polyLine(color, lineWidth, DoubleArray(run.data(), (int)run.size()));
         if (run.size() >= 2) run.erase(run.begin(), run.end() - 2);
     };
     for (int i = 0; items && i < count; ++i) {
@@ -524,7 +526,9 @@ void DrawBMPImpl::paintShape(AAShape &s, int color, bool inset, bool keepOutline
     collector.flush(this);
 }
 
-void DrawBMPImpl::polygon(int edgeColor, int fillColor, const double *x, const double *y, int n) {
+void DrawBMPImpl::polygon(int edgeColor, int fillColor, DoubleArray xs, DoubleArray ys) {
+    const double *x = xs.data, *y = ys.data;
+    int n = xs.len < ys.len ? xs.len : ys.len;
     if (!x || !y || n < 2) return;
     AAShape s(this);
     for (int i = 0; i < n; ++i) {
@@ -535,7 +539,9 @@ void DrawBMPImpl::polygon(int edgeColor, int fillColor, const double *x, const d
     paintShape(s, n >= 3 ? fillColor : kTransparent, paints(edgeColor), false);
 }
 
-void DrawBMPImpl::exactPolygon(int fillColor, const double *x, const double *y, int n) {
+void DrawBMPImpl::exactPolygon(int fillColor, DoubleArray xs, DoubleArray ys) {
+    const double *x = xs.data, *y = ys.data;
+    int n = xs.len < ys.len ? xs.len : ys.len;
     if (!x || !y || n < 3) return;
     // A fan of flat triangles from the first vertex: pixel centres decide, so
     // polygons that share an edge leave no seam and no pixel painted twice.
@@ -569,8 +575,9 @@ void DrawBMPImpl::roundedRect(double x1, double y1, double x2, double y2, int ra
     multiRoundedRect(x1, y1, x2, y2, r, e, fillColor);
 }
 
-void DrawBMPImpl::multiRoundedRect(double x1, double y1, double x2, double y2, const int radius[4],
-                                   const int edgeColor[4], int fillColor) {
+void DrawBMPImpl::multiRoundedRect(double x1, double y1, double x2, double y2,
+                                   const int (&radius)[4], const int (&edgeColor)[4],
+                                   int fillColor) {
     if (!std::isfinite(x1) || !std::isfinite(y1) || !std::isfinite(x2) || !std::isfinite(y2))
         return;
     if (x1 > x2) std::swap(x1, x2);
@@ -601,8 +608,8 @@ void DrawBMPImpl::multiRoundedRect(double x1, double y1, double x2, double y2, c
     paintShape(s, fillColor, edged, !edged);
 }
 
-void DrawBMPImpl::gouraudTriangle(const double v[9], int color) {
-    if (!v || !paints(color)) return;
+void DrawBMPImpl::gouraudTriangle(const double (&v)[9], int color) {
+    if (!paints(color)) return;
     for (int i = 0; i < 9; ++i)
         if (!std::isfinite(v[i])) return;
     double x0 = v[0], y0 = v[1], x1 = v[3], y1 = v[4], x2 = v[6], y2 = v[7];
@@ -657,8 +664,13 @@ void DrawBMPImpl::commitSuperPixels() {
 
 // ---- Text ----
 
-void DrawBMPImpl::drawText(MetaText *text, int first, int end, int x, int y, int color) {
-    if (text) text->paintOn(this, first, end, x, y, color);
+void DrawBMPImpl::drawText(const GlyphText &text) {
+    for (const GlyphRun &run : text.runs)
+        for (int i = 0; i < run.glyphCount; ++i) {
+            const PlacedGlyph &g = text.glyphs[run.firstGlyph + i];
+            GlyphRaster::paint(this, g.image, text.originX, text.originY, g.x, g.y, text.matrix,
+                               run.color);
+        }
 }
 
 void DrawBMPImpl::fillGlyph(const unsigned char *coverage, int w, int h, int pitch, int x, int y,
@@ -775,7 +787,9 @@ void DrawBMPImpl::mergeWithRotation(int id, double x, double y, double angle) {
         }
 }
 
-void DrawBMPImpl::mergeBitMap(int, const int *data, int count, int w, int x, int y) {
+void DrawBMPImpl::mergeBitMap(int, IntArray pixels, int w, int x, int y) {
+    const int *data = pixels.data;
+    int count = pixels.len;
     if (!data || w <= 0 || count < w) return;
     long long j0 = std::max(0LL, (long long)clipTop - y);
     long long j1 = std::min(count / w - 1LL, (long long)clipBottom - y);
@@ -866,20 +880,20 @@ void DrawBMPImpl::adjustBrightness(int handle, int source, double factor) {
     setBrush(handle, new BrightnessAdjustmentBrush(this, source, factor));
 }
 
-void DrawBMPImpl::transformedColor(int handle, int source, const double m[6]) {
-    if (m) setBrush(handle, new TransformedBrushF(this, source, m));
+void DrawBMPImpl::transformedColor(int handle, int source, const double (&m)[6]) {
+    setBrush(handle, new TransformedBrushF(this, source, m));
 }
 
-void DrawBMPImpl::preciseTransformColor(int handle, int source, const double m[6]) {
-    if (m) setBrush(handle, new PreciseTransformBrush(this, getBrush(source), source, m));
+void DrawBMPImpl::preciseTransformColor(int handle, int source, const double (&m)[6]) {
+    setBrush(handle, new PreciseTransformBrush(this, getBrush(source), source, m));
 }
 
 void DrawBMPImpl::brushedTextureColor(int handle, int color, int texture) {
     setBrush(handle, new MetalTextureBrush(this, color, texture));
 }
 
-void DrawBMPImpl::multiLayerColor(int handle, const int *layers, int n) {
-    setBrush(handle, new MultiLayerBrush(this, layers, n));
+void DrawBMPImpl::multiLayerColor(int handle, IntArray layers) {
+    setBrush(handle, new MultiLayerBrush(this, layers.data, layers.len));
 }
 
 void DrawBMPImpl::dashLineColor(int handle, int color, int pattern) {
@@ -887,53 +901,53 @@ void DrawBMPImpl::dashLineColor(int handle, int color, int pattern) {
 }
 
 void DrawBMPImpl::linearGradientColor(int handle, double x1, double y1, double x2, double y2,
-                                      bool periodic, const int *pairs, int n) {
-    setBrush(handle, createLinearGradient(x1, y1, x2, y2, periodic, pairs, n));
+                                      bool periodic, IntArray pairs) {
+    setBrush(handle, createLinearGradient(x1, y1, x2, y2, periodic, pairs.data, pairs.len));
 }
 
 void DrawBMPImpl::radialGradientColor(int handle, int cx, int cy, int rx, int ry, bool periodic,
-                                      const int *pairs, int n) {
-    setBrush(handle, createRadialGradient(cx, cy, rx, ry, periodic, pairs, n));
+                                      IntArray pairs) {
+    setBrush(handle, createRadialGradient(cx, cy, rx, ry, periodic, pairs.data, pairs.len));
 }
 
 void DrawBMPImpl::angleGradientColor(int handle, double cx, double cy, double startAngle,
                                      double endAngle, double innerRadius, double outerRadius,
-                                     const int *pairs, int n) {
+                                     IntArray pairs) {
     setBrush(handle, new AngleGradientBrush(cx, cy, startAngle, endAngle, innerRadius, outerRadius,
-                                            pairs, n));
+                                            pairs.data, pairs.len));
 }
 
 void DrawBMPImpl::relativeLinearGradientColor(int handle, double x1, double y1, double x2,
-                                              double y2, bool periodic, const int *pairs, int n) {
-    linearGradientColor(handle, x1 * width, y1 * height, x2 * width, y2 * height, periodic, pairs,
-                        n);
+                                              double y2, bool periodic, IntArray pairs) {
+    linearGradientColor(handle, x1 * width, y1 * height, x2 * width, y2 * height, periodic, pairs);
 }
 
 void DrawBMPImpl::lightingColor(int handle, int color, double x1, double y1, double x2, double y2,
-                                bool periodic, const int *lighting, int n) {
-    setBrush(handle, new LightingBrush(this, color, x1, y1, x2, y2, periodic, lighting, n));
+                                bool periodic, IntArray lighting) {
+    setBrush(handle,
+             new LightingBrush(this, color, x1, y1, x2, y2, periodic, lighting.data, lighting.len));
 }
 
 void DrawBMPImpl::linearLightingColor(int handle, int color, double x1, double y1, double x2,
-                                      double y2, bool periodic, const int *lighting, int n) {
-    lightingColor(handle, color, x1, y1, x2, y2, periodic, lighting, n);
+                                      double y2, bool periodic, IntArray lighting) {
+    lightingColor(handle, color, x1, y1, x2, y2, periodic, lighting);
 }
 
 void DrawBMPImpl::radialLightingColor(int handle, int color, int cx, int cy, int rx, int ry,
-                                      const int *lighting, int n) {
-    setBrush(handle, new RadialLightingBrush(this, color, cx, cy, rx, ry, lighting, n));
+                                      IntArray lighting) {
+    setBrush(handle,
+             new RadialLightingBrush(this, color, cx, cy, rx, ry, lighting.data, lighting.len));
 }
 
 void DrawBMPImpl::relativeLinearLightingColor(int handle, int color, double x1, double y1,
                                               double x2, double y2, bool periodic,
-                                              const int *lighting, int n) {
+                                              IntArray lighting) {
     lightingColor(handle, color, x1 * width, y1 * height, x2 * width, y2 * height, periodic,
-                  lighting, n);
+                  lighting);
 }
 
-void DrawBMPImpl::patternColor(int handle, int startX, int startY, int w, int h, const int *data,
-                               int n) {
-    setBrush(handle, new PatternBrush(startX, startY, w, h, data, n));
+void DrawBMPImpl::patternColor(int handle, int startX, int startY, int w, int h, IntArray pixels) {
+    setBrush(handle, new PatternBrush(startX, startY, w, h, pixels.data, pixels.len));
 }
 
 void DrawBMPImpl::patternColor2(int handle, int startX, int startY, const char *fileName) {

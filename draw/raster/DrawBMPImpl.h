@@ -55,6 +55,11 @@ public:
     void fringePixel(int x, int y, int level, int color) override;
     void outlineLine(double x1, double y1, double x2, double y2, int color) override;
 
+    // DrawBackEnd: the run
+    void beginPlay(double) override {}
+    void endPlay() override {}
+    void reportError(const char *) override {}
+
     // DrawBackEnd: drawing records
     void setSize(int width, int height, int bgColor) override;
     void resize(int width, int height) override;
@@ -65,25 +70,25 @@ public:
     void setBgRoundedClip(int r1, int r2, int r3, int r4, int color) override;
     void setBgDropShadow(int offsetX, int offsetY, int blurRadius, int unused, int color) override;
     void line(double x1, double y1, double x2, double y2, int color, int width) override;
-    void polyLine(int color, int width, const double *xy, int pointCount) override;
-    void multiLine(const MetaLineItem2 *items, int count) override;
+    void polyLine(int color, int width, DoubleArray xy) override;
+    void multiLine(const MetaLineEntry *items, int count) override;
     void roundedRect(double x1, double y1, double x2, double y2, int radius, int edgeColor,
                      int fillColor) override;
-    void multiRoundedRect(double x1, double y1, double x2, double y2, const int radius[4],
-                          const int edgeColor[4], int fillColor) override;
-    void polygon(int edgeColor, int fillColor, const double *x, const double *y, int n) override;
-    void exactPolygon(int fillColor, const double *x, const double *y, int n) override;
+    void multiRoundedRect(double x1, double y1, double x2, double y2, const int (&radius)[4],
+                          const int (&edgeColor)[4], int fillColor) override;
+    void polygon(int edgeColor, int fillColor, DoubleArray x, DoubleArray y) override;
+    void exactPolygon(int fillColor, DoubleArray x, DoubleArray y) override;
     void shape(int fillColor, bool inset, bool keepOutline, const MetaPathItem *items,
                int count) override;
-    void gouraudTriangle(const double v[9], int color) override;
+    void gouraudTriangle(const double (&v)[9], int color) override;
     void beginSuperPixelMode() override;
     void commitSuperPixels() override;
-    void drawText(MetaText *text, int first, int end, int x, int y, int color) override;
+    void drawText(const GlyphText &text) override;
     void beginSymbol(int id) override;
     void endSymbol(int id) override;
     void mergeWithScaling(int id, int x, int y, int width, int height, int transparency) override;
     void mergeWithRotation(int id, double x, double y, double angle) override;
-    void mergeBitMap(int id, const int *pixels, int count, int width, int x, int y) override;
+    void mergeBitMap(int id, IntArray pixels, int width, int x, int y) override;
     void loadStream(int id, const char *data, int length, int imageType, int width,
                     int height) override;
     void initDynamicLayer() override;
@@ -91,31 +96,31 @@ public:
     void removeSymbol(int id) override;
 
     // DrawBackEnd: colour definitions
+    void setSubDrawMode() override {}
     void adjustBrightness(int handle, int source, double factor) override;
-    void transformedColor(int handle, int source, const double m[6]) override;
-    void preciseTransformColor(int handle, int source, const double m[6]) override;
+    void transformedColor(int handle, int source, const double (&m)[6]) override;
+    void preciseTransformColor(int handle, int source, const double (&m)[6]) override;
     void brushedTextureColor(int handle, int color, int texture) override;
-    void multiLayerColor(int handle, const int *layers, int n) override;
+    void multiLayerColor(int handle, IntArray layers) override;
     void dashLineColor(int handle, int color, int pattern) override;
     void linearGradientColor(int handle, double x1, double y1, double x2, double y2, bool periodic,
-                             const int *pairs, int n) override;
+                             IntArray pairs) override;
     void radialGradientColor(int handle, int cx, int cy, int rx, int ry, bool periodic,
-                             const int *pairs, int n) override;
+                             IntArray pairs) override;
     void angleGradientColor(int handle, double cx, double cy, double startAngle, double endAngle,
-                            double innerRadius, double outerRadius, const int *pairs,
-                            int n) override;
+                            double innerRadius, double outerRadius, IntArray pairs) override;
     void relativeLinearGradientColor(int handle, double x1, double y1, double x2, double y2,
-                                     bool periodic, const int *pairs, int n) override;
+                                     bool periodic, IntArray pairs) override;
     void lightingColor(int handle, int color, double x1, double y1, double x2, double y2,
-                       bool periodic, const int *lighting, int n) override;
+                       bool periodic, IntArray lighting) override;
     void linearLightingColor(int handle, int color, double x1, double y1, double x2, double y2,
-                             bool periodic, const int *lighting, int n) override;
+                             bool periodic, IntArray lighting) override;
     void radialLightingColor(int handle, int color, int cx, int cy, int rx, int ry,
-                             const int *lighting, int n) override;
+                             IntArray lighting) override;
     void relativeLinearLightingColor(int handle, int color, double x1, double y1, double x2,
-                                     double y2, bool periodic, const int *lighting, int n) override;
-    void patternColor(int handle, int startX, int startY, int width, int height, const int *pixels,
-                      int n) override;
+                                     double y2, bool periodic, IntArray lighting) override;
+    void patternColor(int handle, int startX, int startY, int width, int height,
+                      IntArray pixels) override;
     void patternColor2(int handle, int startX, int startY, const char *fileName) override;
     void zoneColor(int handle, bool vertical, int boundary, int before, int after) override;
     void rectColor(int handle, double x1, double y1, double x2, double y2, int color) override;

@@ -4,7 +4,7 @@
 
 #include "draw/list/MetaListing.h"
 #include "draw/list/MetaOpcodes.h"
-#include "draw/list/MetaRecordArg.h"
+#include "draw/list/MetaRecordCall.h"
 #include "draw/list/MetaRecordReader.h"
 #include "draw/pixel/ColorWords.h"
 #include "tests/draw/MetaDrawTestSupport.h"
@@ -78,14 +78,17 @@ TEST(MetaDrawListing, EncodeAndDecodeEveryLetter) {
     const double d[] = {1.5, -2};
     const int ints[] = {7, -8, 9};
     const uint16_t wide[] = {'h', 0xe9, 'y'};
-    const RecordArg args[] = {
-        RecordArg::boolean(true), RecordArg::integer(-3),        RecordArg::word(0x123456),
-        RecordArg::number(0.25),  RecordArg::string("abcde", 5), RecordArg::wide(wide, 3),
-        RecordArg::doubles(d, 2), RecordArg::ints(ints, 3),      RecordArg::words(ints, 2)};
     std::vector<int> w;
-    ASSERT_TRUE(encodeRecordArgs(w, "bixdswDIX", args, 9));
+    const char *bytes = "abcde";
+    putSlots(w, true, -3, 0x123456, 0.25, bytes);
+    // No record writes 16-bit units: their words by hand, low half first.
+    w.insert(w.end(), {3, wide[0] | wide[1] << 16, wide[2]});
+    putSlots(w, DoubleArray(d, 2), IntArray(ints, 3), IntArray(ints, 2));
     EXPECT_EQ(w.size(), 1u + 1 + 1 + 2 + 3 + 3 + 5 + 4 + 3);
-    EXPECT_FALSE(encodeRecordArgs(w, "i", args, 1)) << "a boolean where an integer belongs";
+    static_assert(slotsFit<bool, int, int, double, const char *>("bixds"), "");
+    static_assert(!slotsFit<bool>("i"), "a boolean where an integer belongs");
+    static_assert(!slotsFit<int>("ii") && !slotsFit<int, int>("i"), "counts differ");
+    static_assert(slotsFit<const double(&)[2], IntArray>("ddX"), "an array takes a letter each");
 
     MetaRecordReader r;
     r.reset(w.data(), 0, (int)w.size());

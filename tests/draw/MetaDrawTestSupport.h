@@ -9,6 +9,7 @@
 #include "draw/list/MetaDrawImpl.h"
 #include "draw/list/MetaText.h"
 #include "foundation/Stream.h"
+#include "tests/draw/NullBackEnd.h"
 
 namespace metadraw_test {
 
@@ -33,11 +34,21 @@ public:
     int getItemColor(int i, int defaultColor) const override {
         return colors[i] ? colors[i] : defaultColor;
     }
+    // One glyph-less item per colour, so the play of a text shows up.
+    void getGlyphRuns(int first, int end, int x, int y, int color, GlyphText &out) const override {
+        const double upright[4] = {1, 0, 0, 1};
+        out.reset(x, y, upright);
+        for (int i = first; i < end && i < getItemCount(); ++i) {
+            out.runs.push_back(
+                GlyphRun{GlyphFont{}, getItemColor(i, color), false, (int)out.glyphs.size(), 1});
+            out.glyphs.push_back(PlacedGlyph{(unsigned)i, 0, 0, 0, 0, 0, GlyphImage{}});
+        }
+    }
     ~FakeText() override {}
 };
 
 // Logs each call as a short line.
-class RecordingBackEnd : public DrawBackEnd {
+class RecordingBackEnd : public NullBackEnd {
 public:
     std::vector<std::string> calls;
     bool hasSnapshot = false;
@@ -63,17 +74,18 @@ public:
         log("line " + num(x1) + " " + num(y1) + " " + num(x2) + " " + num(y2) + " " + str(color) +
             " " + str(width));
     }
-    void polyLine(int color, int width, const double *xy, int n) override {
+    void polyLine(int color, int width, DoubleArray xy) override {
         std::string s = "polyLine " + str(color) + " " + str(width);
-        for (int i = 0; i < 2 * n; ++i) s += " " + num(xy[i]);
+        for (int i = 0; i < xy.len; ++i) s += " " + num(xy.data[i]);
         log(s);
     }
     void multiLine(const MetaLineEntry *items, int n) override {
         log("multiLine " + str(n) + (n > 0 && items[0].isStyle ? " style" : ""));
     }
-    void polygon(int edge, int fill, const double *x, const double *y, int n) override {
+    void polygon(int edge, int fill, DoubleArray x, DoubleArray y) override {
         std::string s = "polygon " + str(edge) + " " + str(fill);
-        for (int i = 0; i < n; ++i) s += " " + num(x[i]) + "," + num(y[i]);
+        for (int i = 0; i < x.len && i < y.len; ++i)
+            s += " " + num(x.data[i]) + "," + num(y.data[i]);
         log(s);
     }
     void shape(int fill, bool inset, bool keep, const MetaPathItem *items, int n) override {
@@ -83,9 +95,11 @@ public:
                  ":" + str(items[i].flag);
         log(s);
     }
-    void drawText(MetaText *, int first, int end, int x, int y, int color) override {
-        log("drawText " + str(first) + " " + str(end) + " " + str(x) + " " + str(y) + " " +
-            str(color));
+    // The glyph ids of the fake text are its item indexes.
+    void drawText(const GlyphText &text) override {
+        int first = (int)text.glyphs.front().glyphId, end = (int)text.glyphs.back().glyphId + 1;
+        log("drawText " + str(first) + " " + str(end) + " " + str(text.originX) + " " +
+            str(text.originY) + " " + str(text.runs.front().color));
     }
     void beginSymbol(int id) override { log("beginSymbol " + str(id)); }
     void endSymbol(int id) override { log("endSymbol " + str(id)); }
@@ -93,9 +107,9 @@ public:
         log("mergeWithScaling " + str(id) + " " + str(x) + " " + str(y) + " " + str(w) + " " +
             str(h) + " " + str(t));
     }
-    void mergeBitMap(int id, const int *, int count, int width, int x, int y) override {
-        log("mergeBitMap " + str(id) + " " + str(count) + " " + str(width) + " " + str(x) + " " +
-            str(y));
+    void mergeBitMap(int id, IntArray pixels, int width, int x, int y) override {
+        log("mergeBitMap " + str(id) + " " + str(pixels.len) + " " + str(width) + " " + str(x) +
+            " " + str(y));
     }
     void loadStream(int id, const char *data, int length, int type, int w, int h) override {
         log("loadStream " + str(id) + " " + std::string(data, length) + " " + str(type) + " " +
@@ -111,9 +125,9 @@ public:
         log("dashLineColor " + str(handle) + " " + str(color) + " " + str(pattern));
     }
     void linearGradientColor(int handle, double x1, double y1, double x2, double y2, bool,
-                             const int *, int n) override {
+                             IntArray pairs) override {
         log("linearGradientColor " + str(handle) + " " + num(x1) + " " + num(y1) + " " + num(x2) +
-            " " + num(y2) + " " + str(n));
+            " " + num(y2) + " " + str(pairs.len));
     }
     void patternColor2(int handle, int sx, int sy, const char *file) override {
         log("patternColor2 " + str(handle) + " " + str(sx) + " " + str(sy) + " " + file);

@@ -163,7 +163,7 @@ TEST(RasterBrush, PatternsAndTransforms) {
     EXPECT_EQ(clear.colorAtF(0.5, 0), kTransparent);
 
     auto raster = makeRaster(4, 4, 0);
-    raster->patternColor(dyn(1), 0, 0, 2, 2, px, 4);
+    raster->patternColor(dyn(1), 0, 0, 2, 2, IntArray(px, 4));
     const double shift[6] = {1, 0, 0, 1, 1, 0};
     raster->transformedColor(dyn(2), dyn(1), shift);
     ColorBrush *t = raster->getBrush(dyn(2));
@@ -188,14 +188,14 @@ TEST(RasterBrush, SimpleBrushes) {
 
     auto raster = makeRaster(10, 10, 0x00FFFFFF);
     const int layers[2] = {0x00FF0000, (int)0x800000FF};
-    raster->multiLayerColor(dyn(4), layers, 2);
+    raster->multiLayerColor(dyn(4), IntArray(layers, 2));
     EXPECT_EQ((unsigned)raster->resolveColor(dyn(4), 0, 0),
               PixelBlend::blend(0x00FF0000u, 0x800000FFu));
     const int onlyTop[1] = {(int)0x800000FF};
-    raster->multiLayerColor(dyn(5), onlyTop, 1);
+    raster->multiLayerColor(dyn(5), IntArray(onlyTop, 1));
     EXPECT_EQ((unsigned)raster->resolveColor(dyn(5), 0, 0), 0x800000FFu);
     const int opaqueTop[2] = {0x00FF0000, 0x000000FF};
-    raster->multiLayerColor(dyn(6), opaqueTop, 2);
+    raster->multiLayerColor(dyn(6), IntArray(opaqueTop, 2));
     EXPECT_EQ(raster->resolveColor(dyn(6), 0, 0), 0x0000FF);
 
     raster->adjustBrightness(dyn(7), 0x808080, 0.5);
@@ -258,7 +258,7 @@ TEST(RasterBrush, BackgroundAndGouraud) {
     auto r = makeRaster(8, 4, 0x00FFFFFF);
     EXPECT_FALSE(r->getImage().bgTransparent);
     const int fade[4] = {0, 0x00000000, 256, kTransparent};
-    r->linearGradientColor(dyn(1), 0, 0, 7, 0, false, fade, 4);
+    r->linearGradientColor(dyn(1), 0, 0, 7, 0, false, IntArray(fade, 4));
     r->setBgColor(dyn(1));
     EXPECT_EQ(pixelOf(*r, 0, 2), 0u);
     // The last pixel lands on entry 254: the 12-bit step truncates.

@@ -81,11 +81,11 @@ TEST(RasterImage, SymbolsAndMerges) {
     EXPECT_EQ(pixelOf(*r, 0, 0), kWhite);
 
     const int raw[6] = {1, 2, 3, 4, 5, 6};
-    r->mergeBitMap(0, raw, 6, 3, 18, 18);
+    r->mergeBitMap(0, IntArray(raw, 6), 3, 18, 18);
     EXPECT_EQ(pixelOf(*r, 18, 18), 1u);
     EXPECT_EQ(pixelOf(*r, 19, 19), 5u);
-    r->mergeBitMap(0, raw, 6, 0, 0, 0);
-    r->mergeBitMap(0, nullptr, 6, 3, 0, 0);
+    r->mergeBitMap(0, IntArray(raw, 6), 0, 0, 0);
+    r->mergeBitMap(0, IntArray(nullptr, 6), 3, 0, 0);
     r->endSymbol(99);
 }
 
@@ -121,7 +121,7 @@ TEST(RasterImage, LoadStreamAndGlyphs) {
 
     // Relative gradients take the raster's size.
     const int bw[4] = {0, 0x000000, 256, 0xFFFFFF};
-    r->relativeLinearGradientColor(dyn(3), 0, 0, 1, 0, false, bw, 4);
+    r->relativeLinearGradientColor(dyn(3), 0, 0, 1, 0, false, IntArray(bw, 4));
     EXPECT_EQ(r->resolveColor(dyn(3), 0, 0), 0);
     EXPECT_EQ(r->resolveColor(dyn(3), 3, 0), 0xFFFFFF);
 

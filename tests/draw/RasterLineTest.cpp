@@ -125,7 +125,7 @@ TEST(RasterLine, PolylineJointsArePaintedOnce) {
     // One coat of 50% black over white is 0x80 in every channel.
     auto exact = makeRaster(30, 30, kWhite);
     const double corner[6] = {2, 2, 20, 2, 20, 20};
-    exact->polyLine(grey, 1, corner, 3);
+    exact->polyLine(grey, 1, DoubleArray(corner, 6));
     EXPECT_EQ(darkest(*exact), 0x80u);
     EXPECT_EQ(pixelOf(*exact, 20, 2), 0x00808080u);
     EXPECT_EQ(paintedCount(*exact), 37);
@@ -136,18 +136,18 @@ TEST(RasterLine, PolylineJointsArePaintedOnce) {
         std::vector<double> xy;
         for (int i = 0; i < 8; ++i) xy.push_back(c(rng)), xy.push_back(c(rng));
         auto thin = makeRaster(60, 60, kWhite);
-        thin->polyLine(grey, 1, xy.data(), 4);
+        thin->polyLine(grey, 1, DoubleArray(xy.data(), 8));
         EXPECT_GE(darkest(*thin), 0x80u) << round;
         // Wide lines: pieces and round joints overlap in the mask, not on the pixels.
         auto wide = makeRaster(60, 60, kWhite);
-        wide->polyLine(grey, 1 + round % 7 + 1, xy.data(), 8);
+        wide->polyLine(grey, 1 + round % 7 + 1, DoubleArray(xy.data(), 16));
         EXPECT_GE(darkest(*wide), 0x80u) << round;
     }
 
     // No gap at a sharp turn of a wide line: the joint pixel is covered.
     auto turn = makeRaster(60, 60, kWhite);
     const double vee[6] = {5, 5, 30, 50, 55, 5};
-    turn->polyLine(0, 9, vee, 3);
+    turn->polyLine(0, 9, DoubleArray(vee, 6));
     EXPECT_EQ(pixelOf(*turn, 30, 50), 0u);
     EXPECT_EQ(pixelOf(*turn, 30, 53), 0u);
 }
@@ -168,7 +168,7 @@ TEST(RasterLine, WideLinesAsQuads) {
     for (int x = 0; x < 20; ++x) seen += pixelOf(*d, x, 10) == 0 ? '#' : '.';
     EXPECT_EQ(seen, "..####....####....##");
     auto m = makeRaster(40, 40, kWhite);
-    const MetaLineItem2 items[5] = {{true, 0x0000FF, 1, 0, 0},
+    const MetaLineEntry items[5] = {{true, 0x0000FF, 1, 0, 0},
                                     {false, 0, 0, 2, 2},
                                     {false, 0, 0, 30, 2},
                                     {true, 0x00FF00, 3, 0, 0},

@@ -100,17 +100,21 @@ TEST_P(RasterHostile, ArgumentsNeverCrash) {
                 r->line(v[0], v[1], v[2], v[3], color(), p[0] % 20);
                 break;
             case 1:
-                r->polyLine(color(), p[0] % 12, v, 6);
+                r->polyLine(color(), p[0] % 12, DoubleArray(v, 12));
                 break;
             case 2:
-                r->polygon(color(), color(), v, v + 6, 6);
+                r->polygon(color(), color(), DoubleArray(v, 6), DoubleArray(v + 6, 6));
                 break;
-            case 3:
-                r->multiRoundedRect(v[0], v[1], v[2], v[3], p, p + 4, color());
+            case 3: {
+                const int radius[4] = {p[0], p[1], p[2], p[3]}, edge[4] = {p[4], p[5], p[6], p[7]};
+                r->multiRoundedRect(v[0], v[1], v[2], v[3], radius, edge, color());
                 break;
-            case 4:
-                r->gouraudTriangle(v, color());
+            }
+            case 4: {
+                const double t[9] = {v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7], v[8]};
+                r->gouraudTriangle(t, color());
                 break;
+            }
             case 5: {
                 MetaPathItem items[2] = {
                     {(unsigned)(p[0] % 3),
@@ -125,20 +129,25 @@ TEST_P(RasterHostile, ArgumentsNeverCrash) {
                 break;
             }
             case 6:
-                r->linearGradientColor(dyn(1), v[0], v[1], v[2], v[3], p[3] % 2, pairs, p[4] % 8);
+                r->linearGradientColor(dyn(1), v[0], v[1], v[2], v[3], p[3] % 2,
+                                       IntArray(pairs, p[4] % 8));
                 break;
             case 7:
-                r->radialGradientColor(dyn(2), p[0], p[1], p[2], p[3], p[4] % 2, pairs, 6);
+                r->radialGradientColor(dyn(2), p[0], p[1], p[2], p[3], p[4] % 2,
+                                       IntArray(pairs, 6));
                 break;
             case 8:
-                r->angleGradientColor(dyn(3), v[0], v[1], v[2], v[3], v[4], v[5], pairs, 6);
+                r->angleGradientColor(dyn(3), v[0], v[1], v[2], v[3], v[4], v[5],
+                                      IntArray(pairs, 6));
                 break;
             case 9:
-                r->patternColor(dyn(4), p[0], p[1], p[2], p[3], pairs, 6);
+                r->patternColor(dyn(4), p[0], p[1], p[2], p[3], IntArray(pairs, 6));
                 break;
-            case 10:
-                r->transformedColor(dyn(5), dyn(4), v);
+            case 10: {
+                const double m[6] = {v[0], v[1], v[2], v[3], v[4], v[5]};
+                r->transformedColor(dyn(5), dyn(4), m);
                 break;
+            }
             case 11:
                 r->setClipRect(p[0], p[1], p[2], p[3]);
                 break;
@@ -149,7 +158,8 @@ TEST_P(RasterHostile, ArgumentsNeverCrash) {
                 r->setBgRoundedClip(p[0], p[1], p[2], p[3], color());
                 break;
             case 14:
-                r->lightingColor(dyn(0), color(), v[0], v[1], v[2], v[3], true, pairs, p[5] % 8);
+                r->lightingColor(dyn(0), color(), v[0], v[1], v[2], v[3], true,
+                                 IntArray(pairs, p[5] % 8));
                 break;
             case 15:
                 r->beginSuperPixelMode();
@@ -167,7 +177,7 @@ TEST_P(RasterHostile, ArgumentsNeverCrash) {
                 r->resize(p[0] % 60, p[1] % 60);
                 break;
             case 20: {
-                const MetaLineItem2 items[3] = {{true, color(), p[0] % 9, 0, 0},
+                const MetaLineEntry items[3] = {{true, color(), p[0] % 9, 0, 0},
                                                 {false, 0, 0, v[0], v[1]},
                                                 {false, 0, 0, v[2], v[3]}};
                 r->multiLine(items, 3);

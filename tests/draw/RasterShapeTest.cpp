@@ -39,7 +39,7 @@ TEST(RasterShape, WholeNumberRectanglesHaveNoFringe) {
         auto r = makeRaster(40, 30, kWhite);
         r->setAntiAlias(aa, 1);
         const double x[4] = {3, 20, 20, 3}, y[4] = {4, 4, 17, 17};
-        r->polygon(kRed, kRed, x, y, 4);
+        r->polygon(kRed, kRed, DoubleArray(x, 4), DoubleArray(y, 4));
         EXPECT_EQ(fringeCount(*r, kWhite, kRed), 0);
         // Inclusive corners: 18 by 14 pixels.
         int painted = 0;
@@ -75,7 +75,7 @@ TEST(RasterShape, AntiAliasOffPaintsOrLeaves) {
     auto r = makeRaster(60, 60, kWhite);
     r->setAntiAlias(false, 0);
     const double x[5] = {3.3, 55.7, 41.2, 20.9, 7.1}, y[5] = {10.4, 2.2, 50.6, 57.9, 33.3};
-    r->polygon(kTransparent, kRed, x, y, 5);
+    r->polygon(kTransparent, kRed, DoubleArray(x, 5), DoubleArray(y, 5));
     auto shapeWithCircle = r->createShape();
     shapeWithCircle->addArc(kTransparent, 30, 30, 12.3, 9.7, 30, 39.7, 30, 20.3);
     shapeWithCircle->addArc(kTransparent, 30, 30, 12.3, 9.7, 30, 20.3, 30, 39.7);
@@ -88,7 +88,7 @@ TEST(RasterShape, AntiAliasOffPaintsOrLeaves) {
         }
     // With anti-aliasing on the same picture has fringes.
     auto a = makeRaster(60, 60, kWhite);
-    a->polygon(kTransparent, kRed, x, y, 5);
+    a->polygon(kTransparent, kRed, DoubleArray(x, 5), DoubleArray(y, 5));
     EXPECT_GT(fringeCount(*a, kWhite, kRed), 50);
 }
 
@@ -128,7 +128,7 @@ TEST(RasterShape, EdgeFactorsAndCoverage) {
     // The pixels left of a 45-degree edge: the centre on the edge gets level 8.
     auto r = makeRaster(20, 20, kTransparent);
     const double x[3] = {0, 19, 0}, y[3] = {0, 19, 19};
-    r->polygon(kTransparent, 0x00000000, x, y, 3);
+    r->polygon(kTransparent, 0x00000000, DoubleArray(x, 3), DoubleArray(y, 3));
     EXPECT_EQ(pixelOf(*r, 10, 10) >> 24, 255u - 8 * 255 / 16);
     EXPECT_EQ(pixelOf(*r, 9, 10) >> 24, 0u);
     EXPECT_EQ(pixelOf(*r, 11, 10), (unsigned)kTransparent);
@@ -167,9 +167,9 @@ TEST(RasterShape, TwentyOneEdgesMatchTwenty) {
         x.push_back(40 + 30 * std::sin(a)), y.push_back(40 - 25 * std::cos(a));
     }
     auto twenty = makeRaster(80, 80, kWhite), twentyOne = makeRaster(80, 80, kWhite);
-    twenty->polygon(kTransparent, kRed, x.data(), y.data(), 20);
+    twenty->polygon(kTransparent, kRed, DoubleArray(x.data(), 20), DoubleArray(y.data(), 20));
     x.insert(x.begin() + 1, x[0]), y.insert(y.begin() + 1, y[0]);
-    twentyOne->polygon(kTransparent, kRed, x.data(), y.data(), 21);
+    twentyOne->polygon(kTransparent, kRed, DoubleArray(x.data(), 21), DoubleArray(y.data(), 21));
     EXPECT_TRUE(samePixels(*twenty, *twentyOne));
     EXPECT_GT(fringeCount(*twenty, kWhite, kRed), 0);
 }
@@ -234,8 +234,8 @@ TEST(RasterShape, SuperPixelsHideTheSeam) {
         if (super) r->beginSuperPixelMode();
         const double ax[3] = {0.5, 29.3, 0.5}, ay[3] = {0.5, 0.5, 29.7};
         const double bx[3] = {29.3, 29.3, 0.5}, by[3] = {0.5, 29.7, 29.7};
-        r->polygon(kTransparent, kRed, ax, ay, 3);
-        r->polygon(kTransparent, kRed, bx, by, 3);
+        r->polygon(kTransparent, kRed, DoubleArray(ax, 3), DoubleArray(ay, 3));
+        r->polygon(kTransparent, kRed, DoubleArray(bx, 3), DoubleArray(by, 3));
         r->commitSuperPixels();
         int seam = 0;
         for (int i = 3; i < 26; ++i) {
@@ -253,8 +253,8 @@ TEST(RasterShape, ExactPolygonsTileWithoutOverlap) {
     auto r = makeRaster(30, 30, kWhite);
     const double ax[4] = {0.5, 20.25, 27.5, 3.1}, ay[4] = {0.5, 2.7, 22.4, 28.9};
     const double bx[3] = {20.25, 29.5, 27.5}, by[3] = {2.7, 1.1, 22.4};
-    r->exactPolygon((int)0x80000000u, ax, ay, 4);
-    r->exactPolygon((int)0x80000000u, bx, by, 3);
+    r->exactPolygon((int)0x80000000u, DoubleArray(ax, 4), DoubleArray(ay, 4));
+    r->exactPolygon((int)0x80000000u, DoubleArray(bx, 3), DoubleArray(by, 3));
     int painted = 0;
     for (int y = 0; y < 30; ++y)
         for (int x = 0; x < 30; ++x) {
@@ -269,12 +269,12 @@ TEST(RasterShape, BadInputDrawsNothing) {
     auto r = makeRaster(10, 10, kWhite);
     const double nan = std::nan("");
     const double x[3] = {1, nan, 5}, y[3] = {1, 2, 8};
-    r->polygon(kRed, kRed, x, y, 3);
-    r->polygon(kRed, kRed, nullptr, y, 3);
-    r->polygon(kRed, kRed, x, y, -4);
-    r->exactPolygon(kRed, x, y, 3);
+    r->polygon(kRed, kRed, DoubleArray(x, 3), DoubleArray(y, 3));
+    r->polygon(kRed, kRed, DoubleArray(nullptr, 3), DoubleArray(y, 3));
+    r->polygon(kRed, kRed, DoubleArray(x, -4), DoubleArray(y, -4));
+    r->exactPolygon(kRed, DoubleArray(x, 3), DoubleArray(y, 3));
     const double big[3] = {-1e300, 1e300, 0};
-    r->polygon(kRed, kRed, big, y, 3);
+    r->polygon(kRed, kRed, DoubleArray(big, 3), DoubleArray(y, 3));
     r->line(nan, 0, 5, 5, kRed, 1);
     r->line(-1e300, 0, 1e300, 5, kRed, 3);
     r->roundedRect(nan, 0, 3, 3, 2, kRed, kRed);
@@ -285,7 +285,7 @@ TEST(RasterShape, BadInputDrawsNothing) {
     r->shape(kRed, false, false, nullptr, 3);
     r->setClipRect(8, 8, 2, 2);
     const double ok[3] = {0, 9, 0}, oky[3] = {0, 0, 9};
-    r->polygon(kRed, kRed, ok, oky, 3);
+    r->polygon(kRed, kRed, DoubleArray(ok, 3), DoubleArray(oky, 3));
     // Whatever got through stays inside the image; the empty clip drew nothing.
     EXPECT_EQ(r->getWidth(), 10);
     EXPECT_EQ(pixelOf(*r, 9, 9), kWhite);

@@ -31,6 +31,10 @@ public:
     // Null when the font stands in under a portable family name.
     virtual const char *getPostscriptName() = 0;
     virtual const char *getFileName() = 0;
+    // The face within a collection file.
+    virtual int getFaceIndex() = 0;
+    // The em width over the em height.
+    virtual double getWidthScale() = 0;
     virtual FontDriver *getDriver() = 0;
 
     // Pixels; the descender is positive.

@@ -20,7 +20,10 @@ FontFileEntry::FontFileEntry(LibTTFFontDriver *d, const std::string &p, int inde
       currentWidth(kNoSize),
       currentHeight(kNoSize),
       familyName(FontName::portableFamilyFor(p)),
-      familyStyle(FontName::portableStyleFor(p)) {}
+      familyStyle(FontName::portableStyleFor(p)) {
+    const char *name = face ? FT_Get_Postscript_Name(face) : nullptr;
+    if (name) postscriptName = name;
+}
 
 FontFileEntry::~FontFileEntry() {
     for (auto &s : sizes) delete s.second;

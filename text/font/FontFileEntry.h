@@ -31,6 +31,11 @@ public:
     LibTTFFontDriver *getDriver() const { return driver; }
     // "Arial" or "Times New Roman" for stand-in files, else null.
     const char *getFamilyName() const { return familyName; }
+    // Read when the file is opened, so that drawing needn't ask FreeType; null
+    // when the file has none.
+    const char *getPostscriptName() const {
+        return postscriptName.empty() ? nullptr : postscriptName.c_str();
+    }
     // The style the file has by itself, from FreeType and its name.
     int getNativeStyle() const;
 
@@ -47,4 +52,5 @@ private:
     int currentHeight;
     const char *familyName;
     int familyStyle;
+    std::string postscriptName;
 };

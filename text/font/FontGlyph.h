@@ -1,5 +1,7 @@
 #pragma once
 
+class FontFace;
+
 // One rendered character of one face.  The bitmap belongs to the glyph; the
 // glyph belongs to its face and lives as long as the font driver.
 class FontGlyph {
@@ -19,7 +21,9 @@ public:
           pitch(0),
           rows(0),
           bitmap(nullptr),
-          pixelFormat(kGrey) {}
+          pixelFormat(kGrey),
+          glyphId(0),
+          face(nullptr) {}
     virtual ~FontGlyph() {}
     virtual void addRef() = 0;
     virtual void release() = 0;
@@ -35,4 +39,6 @@ public:
     int rows;
     unsigned char *bitmap;
     int pixelFormat;
+    unsigned glyphId;  // the glyph's index in the font file
+    FontFace *face;    // the face that rendered it, which owns it
 };

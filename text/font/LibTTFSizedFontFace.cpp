@@ -101,11 +101,19 @@ const char *LibTTFSizedFontFace::getFontName() {
 
 const char *LibTTFSizedFontFace::getPostscriptName() {
     if (entry->getFamilyName()) return nullptr;
-    return FT_Get_Postscript_Name(entry->getFace());
+    return entry->getPostscriptName();
 }
 
 const char *LibTTFSizedFontFace::getFileName() {
     return entry->getPath().c_str();
+}
+
+int LibTTFSizedFontFace::getFaceIndex() {
+    return entry->getCollectionIndex();
+}
+
+double LibTTFSizedFontFace::getWidthScale() {
+    return pixelHeight > 0 ? (double)pixelWidth / pixelHeight : 1;
 }
 
 FontDriver *LibTTFSizedFontFace::getDriver() {
@@ -187,5 +195,8 @@ LibTTFFontGlyph *LibTTFSizedFontFace::renderGlyph(int ch, int flags) {
         format = mode == 5 ? FontGlyph::kLcdFiltered : FontGlyph::kLcd;
         if (mode == 5) LcdFilter::apply(&image);
     }
-    return new LibTTFFontGlyph(advance, image, format);
+    LibTTFFontGlyph *glyph = new LibTTFFontGlyph(advance, image, format);
+    glyph->glyphId = index;
+    glyph->face = this;
+    return glyph;
 }

@@ -35,6 +35,8 @@ public:
     const char *getFontName() override;
     const char *getPostscriptName() override;
     const char *getFileName() override;
+    int getFaceIndex() override;
+    double getWidthScale() override;
     FontDriver *getDriver() override;
 
     static int glyphKey(int ch, int flags);

@@ -34,6 +34,8 @@ public:
     const char *getFontName() override { return loaded[0]->getFontName(); }
     const char *getPostscriptName() override { return loaded[0]->getPostscriptName(); }
     const char *getFileName() override { return loaded[0]->getFileName(); }
+    int getFaceIndex() override { return loaded[0]->getFaceIndex(); }
+    double getWidthScale() override { return loaded[0]->getWidthScale(); }
     FontDriver *getDriver() override;
 
     // The face that gives ch (with a reference on its glyph), or null.

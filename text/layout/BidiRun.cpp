@@ -29,9 +29,13 @@ void BidiRun::apply(GlyphContainer *glyphs, int direction) {
     std::vector<Glyph> logical;
     std::vector<int> keptLevels;
     for (int i = 0; i < n; ++i) {
-        if (shaped[i] == 0) continue;  // the alef inside a lam-alef
+        if (shaped[i] == 0) {  // the alef inside a lam-alef
+            if (!logical.empty()) logical.back().ligated = chars[i];
+            continue;
+        }
         Glyph g = glyphs->at(i);
         if ((int)shaped[i] != chars[i]) g.makeGlyph(shaped[i], true);
+        g.rightToLeft = (levels[i] & 1) != 0;
         logical.push_back(g);
         keptLevels.push_back(levels[i]);
     }

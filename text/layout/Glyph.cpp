@@ -6,6 +6,8 @@
 Glyph::Glyph()
     : ch(kSpacer),
       replacement(0),
+      ligated(0),
+      rightToLeft(false),
       face(nullptr),
       flags(0),
       glyph(nullptr),
@@ -34,6 +36,8 @@ Glyph &Glyph::operator=(const Glyph &other) {
     drop();
     ch = other.ch;
     replacement = other.replacement;
+    ligated = other.ligated;
+    rightToLeft = other.rightToLeft;
     face = other.face;
     flags = other.flags;
     glyph = other.glyph;

@@ -34,6 +34,10 @@ public:
 
     int ch;
     int replacement;
+    // A second source character the glyph stands for (the alef of a lam-alef
+    // ligature), or 0.
+    int ligated;
+    bool rightToLeft;  // in a right-to-left stretch of its line
     FontFace *face;
     int flags;
     FontGlyph *glyph;

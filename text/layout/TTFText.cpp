@@ -4,6 +4,7 @@
 #include <cstring>
 #include <vector>
 
+#include "draw/list/GlyphText.h"
 #include "foundation/Unicode.h"
 #include "text/font/FontLock.h"
 #include "text/layout/TTFBlocks.h"
@@ -31,6 +32,11 @@ double sanePoints(double size) {
 }
 
 }  // namespace
+
+void TTFText::getGlyphRuns(int, int, int x, int y, int, GlyphText &out) const {
+    const double upright[4] = {1, 0, 0, 1};
+    out.reset(x, y, upright);
+}
 
 TTFText *TTFText::create(DrawArea *d, const char *text, const char *fontName, int fontIndex,
                          double fontHeight, double fontWidth, double angle, bool vertical,

@@ -54,6 +54,7 @@ public:
     }
     int getItemCount() const override { return 0; }
     int getItemColor(int, int defaultColor) const override { return defaultColor; }
+    void getGlyphRuns(int first, int end, int x, int y, int color, GlyphText &out) const override;
 
 protected:
     TTFText() : refCount(1) {}

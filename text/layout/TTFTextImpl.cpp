@@ -4,14 +4,13 @@
 #include <cmath>
 
 #include "draw/canvas/DrawArea.h"
+#include "draw/list/GlyphText.h"
 #include "draw/list/MetaDraw.h"
-#include "draw/raster/DrawBMP.h"
 #include "foundation/ArrayViews.h"
 #include "text/font/FontFace.h"
 #include "text/font/FontGlyph.h"
 #include "text/font/FontLock.h"
 #include "text/layout/GlyphContainer.h"
-#include "text/layout/GlyphRaster.h"
 #include "text/layout/LineBreaker.h"
 #include "text/layout/TextTransform.h"
 
@@ -245,13 +244,60 @@ void TTFTextImpl::drawAt(const TextTransform &t, double left, double top, int co
     drawUnderlines(t, left, top);
 }
 
-void TTFTextImpl::paintOn(DrawBMP *raster, int first, int last, int x, int y, int color) {
+namespace {
+
+GlyphFont fontOf(FontFace *face) {
+    GlyphFont f{"", 0, "", nullptr, false, false, false, false, 0, 1};
+    if (!face) return f;
+    f.filePath = face->getFileName();
+    f.faceIndex = face->getFaceIndex();
+    f.familyName = face->getFontName();
+    f.postscriptName = face->getPostscriptName();
+    f.bold = face->isBold();
+    f.italic = face->isItalic();
+    f.syntheticBold = face->isSyntheticBold();
+    f.syntheticItalic = face->isSyntheticItalic();
+    f.pixelSize = face->getPixelSize();
+    f.widthScale = face->getWidthScale();
+    return f;
+}
+
+GlyphImage imageOf(const FontGlyph *glyph) {
+    bool lcd = glyph->pixelFormat != FontGlyph::kGrey;
+    return GlyphImage{glyph->bitmap,     glyph->getPixelWidth(), glyph->rows, glyph->pitch,
+                      glyph->bitmapLeft, glyph->bitmapTop,       lcd ? 3 : 1};
+}
+
+}  // namespace
+
+// A glyph joins the last run when it comes from the same face and has its
+// colour and direction.
+void TTFTextImpl::addToRuns(const Glyph &g, int color, FontFace *&runFace, GlyphText &out) const {
+    FontFace *face = g.glyph->face;
+    const GlyphRun *last = out.runs.empty() ? nullptr : &out.runs.back();
+    if (!last || face != runFace || last->color != color || last->rightToLeft != g.rightToLeft) {
+        out.runs.push_back(GlyphRun{fontOf(face), color, g.rightToLeft, (int)out.glyphs.size(), 0});
+        runFace = face;
+    }
+    PlacedGlyph placed{g.glyph->glyphId, (int)out.chars.size(),     1,
+                       g.x + g.xOffset,  (double)(g.y - g.yOffset), g.glyph->advance,
+                       imageOf(g.glyph)};
+    out.chars.push_back(g.ch);
+    if (g.ligated) {
+        out.chars.push_back(g.ligated);
+        placed.charCount = 2;
+    }
+    out.glyphs.push_back(placed);
+    ++out.runs.back().glyphCount;
+}
+
+void TTFTextImpl::getGlyphRuns(int first, int last, int x, int y, int color, GlyphText &out) const {
+    out.reset(x, y, matrix);
+    FontFace *runFace = nullptr;
     first = std::max(first, 0);
     last = std::min(last, getItemCount());
     for (int i = first; i < last; ++i) {
         const Glyph &g = itemAt(i);
-        if (!g.glyph) continue;
-        int c = g.color == Glyph::kDrawColor ? color : g.color;
-        GlyphRaster::paint(raster, g.glyph, x, y, g.x + g.xOffset, g.y - g.yOffset, matrix, c);
+        if (g.glyph) addToRuns(g, g.color == Glyph::kDrawColor ? color : g.color, runFace, out);
     }
 }

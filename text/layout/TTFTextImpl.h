@@ -7,7 +7,6 @@
 #include "text/layout/TTFText.h"
 
 class DrawArea;
-class DrawBMP;
 class FontFace;
 class GlyphContainer;
 
@@ -34,7 +33,7 @@ public:
     int getItemCount() const override;
     int getItemColor(int i, int defaultColor) const override;
 
-    void paintOn(DrawBMP *raster, int first, int end, int x, int y, int color) override;
+    void getGlyphRuns(int first, int end, int x, int y, int color, GlyphText &out) const override;
 
     int getGlyphBegin() const { return begin; }
     int getGlyphEnd() const { return end; }
@@ -47,6 +46,7 @@ private:
     ~TTFTextImpl() override;
 
     const Glyph &itemAt(int i) const;
+    void addToRuns(const Glyph &g, int color, FontFace *&runFace, GlyphText &out) const;
     void measure();
     void layoutVertical(int startX);
     void truncate(int maxWidth);

@@ -1,17 +1,16 @@
-#include "text/layout/GlyphRaster.h"
+#include "draw/raster/GlyphRaster.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "draw/raster/DrawBMP.h"
-#include "text/font/FontGlyph.h"
 
-std::vector<unsigned char> GlyphRaster::toCoverage(const FontGlyph *g) {
-    int w = g->getPixelWidth();
-    std::vector<unsigned char> out((size_t)w * g->rows);
-    bool lcd = g->pixelFormat != FontGlyph::kGrey;
-    for (int y = 0; y < g->rows; ++y) {
-        const unsigned char *row = g->bitmap + (size_t)y * g->pitch;
+std::vector<unsigned char> GlyphRaster::toCoverage(const GlyphImage &g) {
+    int w = g.width;
+    std::vector<unsigned char> out((size_t)w * g.rows);
+    bool lcd = g.bytesPerPixel == 3;
+    for (int y = 0; y < g.rows; ++y) {
+        const unsigned char *row = g.pixels + (size_t)y * g.pitch;
         for (int x = 0; x < w; ++x)
             out[(size_t)y * w + x] =
                 lcd ? (unsigned char)((row[3 * x] + row[3 * x + 1] + row[3 * x + 2] + 1) / 3)
@@ -33,21 +32,21 @@ int GlyphRaster::sample(const std::vector<unsigned char> &c, int w, int h, doubl
     return (int)std::floor(top * (1 - fy) + bottom * fy + 0.5);
 }
 
-void GlyphRaster::paint(DrawBMP *raster, const FontGlyph *g, int x, int y, double u, double v,
+void GlyphRaster::paint(DrawBMP *raster, const GlyphImage &g, int x, int y, double u, double v,
                         const double m[4], int color) {
-    int w = g->getPixelWidth(), h = g->rows;
-    if (w <= 0 || h <= 0 || !g->bitmap) return;
+    int w = g.width, h = g.rows;
+    if (w <= 0 || h <= 0 || !g.pixels) return;
     std::vector<unsigned char> coverage = toCoverage(g);
     bool upright = m[0] == 1 && m[1] == 0 && m[2] == 0 && m[3] == 1;
     if (upright) {
-        int px = x + (int)std::floor(u + 0.5) + g->bitmapLeft;
-        int py = y + (int)std::floor(v + 0.5) - g->bitmapTop;
+        int px = x + (int)std::floor(u + 0.5) + g.left;
+        int py = y + (int)std::floor(v + 0.5) - g.top;
         raster->fillGlyph(coverage.data(), w, h, w, px, py, color);
         return;
     }
     // The bitmap's corners in the text frame, mapped; then every target pixel
     // is mapped back and sampled.
-    double bx = std::floor(u + 0.5) + g->bitmapLeft, by = std::floor(v + 0.5) - g->bitmapTop;
+    double bx = std::floor(u + 0.5) + g.left, by = std::floor(v + 0.5) - g.top;
     double minX = 1e30, minY = 1e30, maxX = -1e30, maxY = -1e30;
     for (int k = 0; k < 4; ++k) {
         double cu = bx + (k & 1 ? w : 0), cv = by + (k & 2 ? h : 0);
