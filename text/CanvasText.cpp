@@ -1,18 +1,12 @@
 #include "text/CanvasText.h"
 
 #include "draw/canvas/DrawArea.h"
+#include "draw/pixel/ColorWords.h"
+#include "foundation/Constants.h"
 #include "text/font/FontDriver.h"
 #include "text/font/FontLock.h"
 #include "text/font/FontSearchPath.h"
 #include "text/layout/TTFText.h"
-
-namespace {
-
-const int kTopLeft = 7;
-const int kTransparentBackground = (int)0xFF000000;
-const int kTextColor = (int)0xFFFF0002;
-
-}  // namespace
 
 void CanvasText::install() {
     static CanvasText service;
@@ -40,7 +34,7 @@ void CanvasText::drawText(DrawArea *d, const wchar_t *str, const char *font, int
 void CanvasText::renderVSML(DrawArea *d, const char *markup, int mode) {
     if (!d) return;
     TTFText *t = TTFText::create(d, markup, "Arial", 0, 8, 0, 0, false, mode, 0, 0, 0);
-    d->setSize(t->getWidth(), t->getHeight(), kTransparentBackground);
+    d->setSize(t->getWidth(), t->getHeight(), kTransparent);
     t->draw(0, 0, kTextColor, kTopLeft);
     t->destroy();
 }

@@ -129,10 +129,6 @@ bool ColorModel::isSpecialColor(int word) {
     return word != kTransparent && hasTransparentTop(word);
 }
 
-bool ColorModel::isDynamicColor(int word) {
-    return ColorWord::isDynamicHandle(word);
-}
-
 bool ColorModel::isLiveHandle(int word) const {
     return ColorWord::isDynamicHandle(word) && ColorWord::dynamicIndex(word) < nextDynColor;
 }

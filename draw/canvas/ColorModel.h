@@ -41,7 +41,6 @@ public:
     bool isOpaque(int color);
     // A reserved word other than kTransparent: palette, dynamic or metal.
     static bool isSpecialColor(int word);
-    static bool isDynamicColor(int word);
 
     int halfColor(int color);
     int adjustBrightness(int color, double brightness);

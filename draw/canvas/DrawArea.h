@@ -8,7 +8,7 @@
 
 class MetaDraw;
 class TTFText;
-class DrawBackEnd;
+class DrawBMP;
 
 // Anything a canvas keeps alive for its users (addObject, addFontAttr): deleted
 // with the canvas.
@@ -34,7 +34,7 @@ public:
     virtual void destroy() = 0;
 
     // The raster brought up to date with the list; null when no raster can be made.
-    virtual DrawBackEnd *getRaster() = 0;
+    virtual DrawBMP *getRaster() = 0;
     // Recording always happens; kept for the host interface.
     virtual void enableVectorOutput(bool enable) = 0;
     virtual void initDynamicLayer() = 0;
@@ -287,7 +287,8 @@ public:
     virtual void smoothPolygon(DoubleArray x, DoubleArray y, int edgeColor, int fillColor) = 0;
     // A malloc'ed block of at most limit bytes the caller frees; null on failure.
     virtual char *loadFile(const char *path, int limit, int *length) = 0;
-    virtual DrawBackEnd *createRaster() = 0;
+    // A new raster for this canvas, empty; getRaster makes and fills its own.
+    virtual DrawBMP *createRaster() = 0;
     virtual bool writeSVGStream(qlx::ostream &out, const char *options) = 0;
     virtual void writeAGFStream(qlx::ostream &out) = 0;
 

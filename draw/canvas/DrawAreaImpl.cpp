@@ -12,15 +12,13 @@
 #include "draw/canvas/ShapePath.h"
 #include "draw/canvas/SubDrawArea.h"
 #include "draw/canvas/TextAntiAlias.h"
-#include "draw/list/DrawBackEnd.h"
+#include "draw/codec/ImageEncoder.h"
 #include "draw/list/MetaDraw.h"
 #include "draw/pixel/ColorWords.h"
 #include "draw/raster/DrawBMP.h"
 #include "foundation/Codec.h"
 #include "foundation/Constants.h"
 #include "foundation/Unicode.h"
-
-DrawAreaImpl::BackEndHooks DrawAreaImpl::hooks = DrawBMP::canvasHooks();
 
 namespace {
 
@@ -108,8 +106,16 @@ void DrawAreaImpl::destroy() {
 
 // ---- Raster on demand ----
 
-DrawBackEnd *DrawAreaImpl::createRaster() {
-    return hooks.createRaster ? hooks.createRaster(this, getTemplateRaster()) : nullptr;
+DrawBMP *DrawAreaImpl::createRaster() {
+    return DrawBMP::create(metaDraw, getTemplateRaster());
+}
+
+void DrawAreaImpl::applyRasterSettings() {
+    bitmap->setAntiAlias(antiAliasShape != 0, antiAliasText);
+    bitmap->setInterlace(interlace);
+    bitmap->setTransparentColor(transparentColor);
+    bitmap->setDitherMethod(ditherMethod);
+    bitmap->setPaletteMode(paletteMode);
 }
 
 void DrawAreaImpl::destroyRaster() {
@@ -118,12 +124,12 @@ void DrawAreaImpl::destroyRaster() {
     replayPos = 0;
 }
 
-DrawBackEnd *DrawAreaImpl::getRaster() {
+DrawBMP *DrawAreaImpl::getRaster() {
     // A second round only when the list says the raster can't be continued.
     for (int round = 0; round < 2; ++round) {
         if (!bitmap) bitmap = createRaster();
         if (!bitmap) return nullptr;
-        if (hooks.applySettings) hooks.applySettings(bitmap, this);
+        applyRasterSettings();
         int oldPos = replayPos;
         replayPos = metaDraw->play(bitmap, oldPos);
         if (oldPos > 0 && replayPos < 1) {
@@ -268,9 +274,8 @@ void DrawAreaImpl::shearTransform(double xShear, double yShear, int bgColor, int
 
 void DrawAreaImpl::warp(ImageOps::ImageWarp::Kind kind, int bgColor, double period,
                         double amplitude, double phase) {
-    if (!hooks.warpImage) return;
     ImageOps::ImageWarp w = {kind, getARGBColor(bgColor), period, amplitude, phase};
-    if (DrawBackEnd *raster = getRaster()) hooks.warpImage(raster, w);
+    if (DrawBMP *raster = getRaster()) raster->replaceImage(ImageOps::warp(raster->copyImage(), w));
 }
 
 void DrawAreaImpl::waveTransform(double period, double amplitude, double phase, int bgColor) {
@@ -301,26 +306,26 @@ void DrawAreaImpl::hTriangleTransform(int bgColor) {
 // ---- Pixels ----
 
 void DrawAreaImpl::pixel(int x, int y, int color) {
-    if (x < 0 || y < 0 || x >= width || y >= height || !hooks.setPixel) return;
-    if (DrawBackEnd *raster = getRaster()) hooks.setPixel(raster, x, y, getARGBColor(color));
+    if (x < 0 || y < 0 || x >= width || y >= height) return;
+    if (DrawBMP *raster = getRaster()) raster->setPixel(x, y, getARGBColor(color));
 }
 
 int DrawAreaImpl::getPixel(int x, int y) {
-    if (x < 0 || y < 0 || x >= width || y >= height || !hooks.getPixel) return kTransparent;
-    DrawBackEnd *raster = getRaster();
-    return raster ? hooks.getPixel(raster, x, y) : kTransparent;
+    if (x < 0 || y < 0 || x >= width || y >= height) return kTransparent;
+    DrawBMP *raster = getRaster();
+    return raster ? raster->getPixel(x, y) : kTransparent;
 }
 
 void DrawAreaImpl::fill2(int x, int y, int color, int borderColor) {
-    if (x < 0 || y < 0 || x >= width || y >= height || !hooks.floodFill) return;
-    if (DrawBackEnd *raster = getRaster())
-        hooks.floodFill(raster, x, y, getARGBColor(color), getARGBColor(borderColor));
+    if (x < 0 || y < 0 || x >= width || y >= height) return;
+    if (DrawBMP *raster = getRaster())
+        raster->floodFill(x, y, getARGBColor(color), getARGBColor(borderColor));
 }
 
 void DrawAreaImpl::fill(int x, int y, int color) {
-    if (x < 0 || y < 0 || x >= width || y >= height || !hooks.floodFill) return;
-    if (DrawBackEnd *raster = getRaster())
-        hooks.floodFill(raster, x, y, getARGBColor(color), kNoBorder);
+    if (x < 0 || y < 0 || x >= width || y >= height) return;
+    if (DrawBMP *raster = getRaster())
+        raster->floodFill(x, y, getARGBColor(color), DrawBMP::kRegionOfSeed);
 }
 
 void DrawAreaImpl::beginSuperPixelMode() {
@@ -882,7 +887,9 @@ MemBlock DrawAreaImpl::memResult() {
 
 MemBlock DrawAreaImpl::encodeRaster(int imageType, int quality) {
     memOut.reset();
-    if (!hooks.encodeRaster || !hooks.encodeRaster(this, imageType, quality, memOut)) {
+    DrawBMP *raster = getRaster();
+    const char *alpha = metaDraw->getOption("alpha");
+    if (!raster || !ImageEncoder::encode(memOut, raster->getImage(), imageType, quality, alpha)) {
         memOut.reset();
         return MemBlock();
     }
@@ -983,7 +990,8 @@ MemBlock DrawAreaImpl::outBMP2() {
 
 MemBlock DrawAreaImpl::outAlpha2() {
     memOut.reset();
-    if (!hooks.encodeAlpha || !hooks.encodeAlpha(this, memOut)) {
+    DrawBMP *raster = getRaster();
+    if (!raster || !ImageEncoder::encodeAlpha(memOut, raster->getImage())) {
         memOut.reset();
         return MemBlock();
     }
@@ -1017,26 +1025,29 @@ MemBlock DrawAreaImpl::outAGF2() {
 bool DrawAreaImpl::writeVector(qlx::ostream &out, int imageType, const char *options) {
     if (options && *options) setOutputOptions(options);
     bool ok = false;
-    if (hooks.writeVector) {
-        if (imageType == kSVG && metaDraw->getOption("compress")) {
-            qlx::ostrstream plain;
-            ok = hooks.writeVector(this, kSVG, plain);
-            int n = plain.tell();
-            std::vector<char> packed(ok ? qlx::getGzipBufferSize(n) : 0);
-            int packedLen = ok ? qlx::gzipCompress(packed.data(), (int)packed.size(), plain.str(),
-                                                   n, kSvgzLevel)
-                               : 0;
-            // A compressor failure still gives a readable file.
-            if (packedLen >= 1)
-                out.write(packed.data(), packedLen);
-            else
-                out.write(plain.str(), n);
-        } else {
-            ok = hooks.writeVector(this, imageType, out);
-        }
+    if (imageType == kSVG && metaDraw->getOption("compress")) {
+        qlx::ostrstream plain;
+        ok = playVector(kSVG, plain);
+        int n = plain.tell();
+        std::vector<char> packed(ok ? qlx::getGzipBufferSize(n) : 0);
+        int packedLen =
+            ok ? qlx::gzipCompress(packed.data(), (int)packed.size(), plain.str(), n, kSvgzLevel)
+               : 0;
+        // A compressor failure still gives a readable file.
+        if (packedLen >= 1)
+            out.write(packed.data(), packedLen);
+        else
+            out.write(plain.str(), n);
+    } else {
+        ok = playVector(imageType, out);
     }
     setOutputOptions("");
     return ok;
+}
+
+bool DrawAreaImpl::playVector(int, qlx::ostream &) {
+    // No vector back end is built yet: SVG and PDF output fail.
+    return false;
 }
 
 bool DrawAreaImpl::writeSVGStream(qlx::ostream &out, const char *options) {

@@ -7,42 +7,21 @@
 
 #include "draw/canvas/ColorModel.h"
 #include "draw/canvas/DrawArea.h"
+#include "draw/list/MetaDrawOwner.h"
+#include "draw/pixel/ColorWords.h"
 #include "draw/pixel/ImageOps.h"
 #include "foundation/Stream.h"
 
 // The canvas.  Records every drawing call into its display list and keeps the
 // raster only as a cache that is brought up to date by replay.
-class DrawAreaImpl : public DrawArea {
+class DrawAreaImpl : public DrawArea, public MetaDrawOwner {
 public:
-    // What the canvas needs of the pixel and vector back ends, installed by them.
-    // A missing hook makes its operations fail (null raster, transparent pixel,
-    // false output).
-    struct BackEndHooks {
-        DrawBackEnd *(*createRaster)(DrawAreaImpl *canvas, DrawBackEnd *templateRaster);
-        // Pushes the canvas's raster settings (anti-alias, interlace, transparent
-        // colour, dither method, palette mode, in this order).
-        void (*applySettings)(DrawBackEnd *raster, const DrawAreaImpl *canvas);
-        int (*getPixel)(DrawBackEnd *raster, int x, int y);
-        void (*setPixel)(DrawBackEnd *raster, int x, int y, int color);
-        // borderColor is kNoBorder for a fill of the region of the start pixel's colour.
-        void (*floodFill)(DrawBackEnd *raster, int x, int y, int color, int borderColor);
-        // Encodes the canvas as a raster image type (PNG, GIF, JPG, WMP, BMP).
-        bool (*encodeRaster)(DrawAreaImpl *canvas, int imageType, int quality, qlx::ostream &out);
-        void (*warpImage)(DrawBackEnd *raster, const ImageOps::ImageWarp &warp);
-        // The transparency byte of every pixel, row by row.
-        bool (*encodeAlpha)(DrawAreaImpl *canvas, qlx::ostream &out);
-        // Writes the canvas's list as SVG or PDF.
-        bool (*writeVector)(DrawAreaImpl *canvas, int imageType, qlx::ostream &out);
-    };
-    static BackEndHooks hooks;
-    static constexpr int kNoBorder = -1;
-
     DrawAreaImpl();
 
     void retain() override;
     void destroy() override;
 
-    DrawBackEnd *getRaster() override;
+    DrawBMP *getRaster() override;
     void enableVectorOutput(bool) override {}
     void initDynamicLayer() override;
     void removeDynamicLayer() override;
@@ -197,7 +176,7 @@ public:
         return colors()->adjustBrightness(color, brightness);
     }
     int allocDynColor() override { return colors()->allocDynColor(); }
-    bool isDynamicColor(int color) override { return ColorModel::isDynamicColor(color); }
+    bool isDynamicColor(int color) override { return ColorWord::isDynamicHandle(color); }
     void freeDynColor(int color) override { colors()->freeDynColor(color); }
     void reserveDynColor(int color) override { colors()->reserveDynColor(color); }
 
@@ -299,7 +278,7 @@ public:
     void drawPath(DoubleArray xy, int edgeColor, int fillColor, int lineWidth) override;
     void smoothPolygon(DoubleArray x, DoubleArray y, int edgeColor, int fillColor) override;
     char *loadFile(const char *path, int limit, int *length) override;
-    DrawBackEnd *createRaster() override;
+    DrawBMP *createRaster() override;
     bool writeSVGStream(qlx::ostream &out, const char *options) override;
     void writeAGFStream(qlx::ostream &out) override;
 
@@ -308,13 +287,6 @@ public:
     // The word handed to text creation for this canvas's text anti-alias setting.
     int getTextAAMode() const;
 
-    // Raster settings, read by the back end.
-    bool getAntiAliasShape() const { return antiAliasShape != 0; }
-    int getAntiAliasText() const { return antiAliasText; }
-    int getInterlace() const { return interlace; }
-    int getTransparentColor() const { return transparentColor; }
-    int getDitherMethod() const { return ditherMethod; }
-    int getPaletteMode() const { return paletteMode; }
     int getReplayPos() const { return replayPos; }
 
 protected:
@@ -324,7 +296,9 @@ protected:
     // parent's.
     virtual ColorModel *colors() { return &colorModel; }
     // The raster a new raster of this canvas copies its set-up from.
-    virtual DrawBackEnd *getTemplateRaster() { return nullptr; }
+    virtual DrawBMP *getTemplateRaster() { return nullptr; }
+    // Plays the whole list on the SVG (kSVG) or PDF (kPDF) back end into out.
+    virtual bool playVector(int imageType, qlx::ostream &out);
     void destroyRaster();
 
 private:
@@ -340,6 +314,7 @@ private:
     bool loadWithType(const char *path, int requiredType);
     char *readFile(const char *path, int limit, int *length);
     char *readResource(const char *id, int *length);
+    void applyRasterSettings();
     MemBlock encodeRaster(int imageType, int quality);
     MemBlock memResult();
     bool writeFile(const char *path, MemBlock block);
@@ -347,7 +322,7 @@ private:
 
     int refCount;
     MetaDraw *metaDraw;
-    DrawBackEnd *bitmap;
+    DrawBMP *bitmap;
     int replayPos;
     std::vector<DrawAreaObject *> objects;
     std::map<std::string, DrawArea *> drawAreaResources;

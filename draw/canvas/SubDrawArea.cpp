@@ -12,6 +12,6 @@ ColorModel *SubDrawArea::colors() {
     return parent->colors();
 }
 
-DrawBackEnd *SubDrawArea::getTemplateRaster() {
+DrawBMP *SubDrawArea::getTemplateRaster() {
     return parent->getRaster();
 }

@@ -12,7 +12,7 @@ public:
 
 protected:
     ColorModel *colors() override;
-    DrawBackEnd *getTemplateRaster() override;
+    DrawBMP *getTemplateRaster() override;
 
 private:
     DrawAreaImpl *parent;

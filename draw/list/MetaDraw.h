@@ -3,14 +3,14 @@
 #include "foundation/ArrayViews.h"
 #include "foundation/Stream.h"
 
-class DrawArea;
 class DrawBackEnd;
+class MetaDrawOwner;
 class MetaText;
 
 // The display list of a canvas: every drawing call becomes a record in one array
 // of 32-bit words, and play() replays the records on a back end (raster, PDF, SVG).
 // Colour arguments are canvas colour words; the list registers them through its
-// owner canvas, so a dynamic colour is defined in the stream before first use.
+// owner, so a dynamic colour is defined in the stream before first use.
 class MetaDraw {
 public:
     // A path of lines and elliptic arcs filled as one shape (even-odd rule).
@@ -46,8 +46,8 @@ public:
     };
 
     // A list whose colours are translated by owner (may be null: words stay as given).
-    static MetaDraw *create(DrawArea *owner);
-    virtual DrawArea *getOwner() const = 0;
+    static MetaDraw *create(MetaDrawOwner *owner);
+    virtual MetaDrawOwner *getOwner() const = 0;
 
     virtual ~MetaDraw() {}
     // Deletes the list and frees its symbols and brushes.

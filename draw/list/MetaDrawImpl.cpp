@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "draw/canvas/DrawArea.h"
 #include "draw/list/DrawBackEnd.h"
 #include "draw/list/MetaBrush.h"
+#include "draw/list/MetaDrawOwner.h"
 #include "draw/list/MetaListing.h"
 #include "draw/list/MetaOpcodes.h"
 #include "draw/list/MetaPlayer.h"
@@ -34,17 +34,13 @@ std::string trimLower(const char *begin, const char *end) {
     return s;
 }
 
-bool isDynamicHandle(int word) {
-    return ((unsigned)word & 0xffff0000u) == (unsigned)kDynamicColorBase;
-}
-
 }  // namespace
 
-MetaDraw *MetaDraw::create(DrawArea *owner) {
+MetaDraw *MetaDraw::create(MetaDrawOwner *owner) {
     return new MetaDrawImpl(owner);
 }
 
-MetaDrawImpl::MetaDrawImpl(DrawArea *owner)
+MetaDrawImpl::MetaDrawImpl(MetaDrawOwner *owner)
     : id((int)qlx::getUniqueId()),
       owner(owner),
       parentList(nullptr),
@@ -139,7 +135,7 @@ MetaDrawImpl *MetaDrawImpl::outermost() {
 
 int MetaDrawImpl::registerColor(int color) {
     int word = owner ? owner->getARGBColor(color) : color;
-    if (!isDynamicHandle(word) || brushDepth > 10) return word;
+    if (!ColorWord::isDynamicHandle(word) || brushDepth > 10) return word;
     ++brushDepth;
     MetaDrawImpl *list = this;
     for (int i = 0; i < kMaxNesting && list; ++i, list = list->parentList) {
@@ -450,7 +446,7 @@ int MetaDrawImpl::defineListSymbol(MetaDrawImpl *source) {
 void MetaDrawImpl::freeSymbol(const Symbol &symbol) {
     switch (symbol.kind) {
         case kListSymbol: {
-            DrawArea *canvas = static_cast<MetaDrawImpl *>(symbol.object)->owner;
+            MetaDrawOwner *canvas = static_cast<MetaDrawImpl *>(symbol.object)->owner;
             if (canvas) canvas->destroy();
             break;
         }
@@ -509,7 +505,7 @@ void MetaDrawImpl::loadStream(char *data, int length, int imageType, int width, 
 
 void MetaDrawImpl::addLineStyle(int color, int width) {
     if (!lineBatch.empty()) multiStyle = true;
-    lineBatch.push_back(LineEntry{true, color, width, 0, 0});
+    lineBatch.push_back(MetaLineEntry{true, color, width, 0, 0});
     lineColor = color;
     lineWidth = width;
 }
@@ -519,7 +515,7 @@ void MetaDrawImpl::moveLineTo(int color, int width, double x, double y) {
     if (!lineBatch.empty() && (x != lastX || y != lastY)) flushLines();
     if (lineBatch.empty()) {
         addLineStyle(c, width);
-        lineBatch.push_back(LineEntry{false, 0, 0, x, y});
+        lineBatch.push_back(MetaLineEntry{false, 0, 0, x, y});
     } else if (c != lineColor || width != lineWidth) {
         addLineStyle(c, width);
     }
@@ -529,7 +525,7 @@ void MetaDrawImpl::moveLineTo(int color, int width, double x, double y) {
 
 void MetaDrawImpl::addLine(int color, int width, double x1, double y1, double x2, double y2) {
     moveLineTo(color, width, x1, y1);
-    lineBatch.push_back(LineEntry{false, 0, 0, x2, y2});
+    lineBatch.push_back(MetaLineEntry{false, 0, 0, x2, y2});
     lastX = x2;
     lastY = y2;
 }
@@ -557,7 +553,7 @@ void MetaDrawImpl::writeLineBatch() {
         return;
     }
     beginRecord(kOpMultiLine);
-    for (const LineEntry &e : lineBatch) {
+    for (const MetaLineEntry &e : lineBatch) {
         if (e.isStyle) {
             putSlots(words, (int)kLineItemStyle, e.color, e.width);
         } else {

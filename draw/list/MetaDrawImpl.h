@@ -19,12 +19,12 @@ public:
         int length;
     };
 
-    explicit MetaDrawImpl(DrawArea *owner);
+    explicit MetaDrawImpl(MetaDrawOwner *owner);
     ~MetaDrawImpl() override;
     MetaDrawImpl(const MetaDrawImpl &) = delete;
     MetaDrawImpl &operator=(const MetaDrawImpl &) = delete;
 
-    DrawArea *getOwner() const override { return owner; }
+    MetaDrawOwner *getOwner() const override { return owner; }
     void destroyList() override { delete this; }
     void freeze() override;
     bool isFrozen() const override { return frozen; }
@@ -144,13 +144,6 @@ public:
     void playSymbol(DrawBackEnd *backEnd, double scale);
 
 private:
-    struct LineEntry {
-        bool isStyle;
-        int color;
-        int width;
-        double x, y;
-    };
-
     void beginRecord(unsigned opcode);
     void closeRecord();
     void defineBrush(int handle, MetaBrush *brush);
@@ -167,7 +160,7 @@ private:
     int knownHeight() const;
 
     int id;
-    DrawArea *owner;
+    MetaDrawOwner *owner;
     MetaDrawImpl *parentList;
     MetaDrawImpl *optionParent;
 
@@ -176,7 +169,7 @@ private:
     bool frozen;
     int frozenPos;
 
-    std::vector<LineEntry> lineBatch;
+    std::vector<MetaLineEntry> lineBatch;
     std::vector<double> lineScratch;
     int lineColor, lineWidth;
     double lastX, lastY;

@@ -5,6 +5,7 @@
 
 #include "draw/list/MetaDrawImpl.h"
 #include "draw/list/MetaOpcodes.h"
+#include "draw/pixel/ColorWords.h"
 #include "foundation/CLocale.h"
 #include "foundation/Unicode.h"
 
@@ -17,7 +18,7 @@ const char *const kPaletteNames[] = {"Chart.BackgroundColor", "Chart.LineColor",
 void MetaListing::formatColor(char *buf, int size, int color) {
     unsigned w = (unsigned)color;
     unsigned index = w & 0xffffu;
-    if (w == 0xff000000u) {
+    if (color == kTransparent) {
         std::snprintf(buf, size, "Chart.Transparent");
     } else if (w < 0x1000000u || (w >> 16) != 0xffffu || (w & 0x8000u)) {
         std::snprintf(buf, size, "0x%06x", w);

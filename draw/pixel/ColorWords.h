@@ -60,5 +60,10 @@ inline bool isContextWord(int c) {
 inline int alphaByte(int c) {
     return (int)((unsigned)c >> 24);
 }
+// A word that can leave a mark: not wholly transparent, or a dynamic colour,
+// whose brush decides pixel by pixel.
+inline bool paints(int c) {
+    return alphaByte(c) != 255 || isDynamicHandle(c);
+}
 
 }  // namespace ColorWord

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "draw/pixel/ColorWords.h"
+
 namespace {
 
 const double kPi = 3.14159265358979;
@@ -93,7 +95,7 @@ struct Weighted {
         o += p.o * w, r += p.r * w, g += p.g * w, b += p.b * w;
     }
     int word() const {
-        if (o <= 0.5) return (int)0xFF000000u;
+        if (o <= 0.5) return kTransparent;
         auto ch = [&](double v) { return (unsigned)std::min(std::max(v / o + 0.5, 0.0), 255.0); };
         unsigned op = (unsigned)std::min(o + 0.5, 255.0);
         return (int)(((255 - op) << 24) | (ch(r) << 16) | (ch(g) << 8) | ch(b));
@@ -154,7 +156,7 @@ double filterSupport(int filter) {
 
 PixelBuffer resize(const PixelBuffer &src, int width, int height, int filter, double blur) {
     if (width <= 0 || height <= 0) return PixelBuffer();
-    if (src.isEmpty()) return filled(width, height, (int)0xFF000000u);
+    if (src.isEmpty()) return filled(width, height, kTransparent);
     if (!std::isfinite(blur) || blur <= 0) blur = 1;
     const FilterDef &f = filterOf(filter);
     Contributions cx = contributions(src.width, width, f, blur);

@@ -10,12 +10,6 @@ namespace PixelBlend {
 inline unsigned alphaOf(unsigned c) {
     return c >> 24;
 }
-inline bool isDynamic(unsigned c) {
-    return (c >> 16) == 0xFFFEu;
-}
-inline int dynamicIndex(unsigned c) {
-    return (int)(c & 0xFFFFu);
-}
 // Any word with the top byte 255 paints nothing.
 inline bool isInvisible(unsigned c) {
     return (c >> 24) == 255u;

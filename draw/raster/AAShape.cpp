@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "draw/pixel/ColorWords.h"
 #include "draw/raster/scan/AAEllipseEdge.h"
 #include "draw/raster/scan/AALineEdge.h"
 #include "draw/raster/scan/ActiveEdgeFiller.h"
@@ -53,7 +54,7 @@ void AAShape::paint(int color, bool inset, bool keepOutline) {
 }
 
 void AAShape::paintOn(ShapeTarget *on, int color, bool inset, bool keepOutline) {
-    if ((unsigned)color >> 24 != 255 || (unsigned)color >> 16 == 0xFFFEu) {
+    if (ColorWord::paints(color)) {
         if ((int)edges.size() > kMaxDirectEdges)
             fillGeneral(on, color, inset);
         else

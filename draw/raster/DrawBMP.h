@@ -1,6 +1,5 @@
 #pragma once
 
-#include "draw/canvas/DrawAreaImpl.h"
 #include "draw/list/DrawBackEnd.h"
 #include "draw/pixel/ImageOps.h"
 #include "draw/pixel/PixelImage.h"
@@ -31,14 +30,14 @@ public:
     typedef int *(*DecodeHook)(const char *data, int length, int imageType, int *width,
                                int *height);
 
+    // floodFill's border colour for a fill of the region of the start pixel's colour.
+    static constexpr int kRegionOfSeed = -1;
+
     // A raster serving metaDraw; a template raster (of a parent canvas) shares its
     // dynamic colours with the new one.  Either may be null.
-    static DrawBMP *create(MetaDraw *metaDraw, DrawBackEnd *templateRaster);
+    static DrawBMP *create(MetaDraw *metaDraw, DrawBMP *templateRaster);
     static void setDecodeHook(DecodeHook hook);
     static DecodeHook getDecodeHook();
-    // The canvas's back-end hooks served by this raster and the image encoders;
-    // every canvas starts with them.
-    static DrawAreaImpl::BackEndHooks canvasHooks();
 
     ~DrawBMP() override {}
 
@@ -56,7 +55,7 @@ public:
     // Blends a colour (plain or dynamic) into one pixel inside the clip.
     virtual void setPixel(int x, int y, int color) = 0;
     // Fills the 4-connected region of the start pixel's colour, or up to
-    // borderColor when that isn't negative one.
+    // borderColor when that isn't kRegionOfSeed.
     virtual void floodFill(int x, int y, int color, int borderColor) = 0;
 
     virtual void setAntiAlias(bool shapeAntiAlias, int textAntiAlias) = 0;

@@ -21,7 +21,8 @@
 #include "draw/raster/scan/LineRasterizer.h"
 #include "draw/raster/scan/StrokeMask.h"
 
-using PixelBlend::isDynamic;
+using ColorWord::isDynamicHandle;
+using ColorWord::paints;
 using PixelBlend::isInvisible;
 
 namespace {
@@ -31,10 +32,6 @@ const long long kMaxPixels = 1LL << 28;
 const long long kMaxPatternFile = 64LL << 20;
 
 DrawBMP::DecodeHook decodeHook = ImageDecoder::decodeAllocated;
-
-bool paints(int color) {
-    return !isInvisible((unsigned)color) || isDynamic((unsigned)color);
-}
 
 // Lines go straight to the raster when no joint needs sharing.
 class RasterLineSink : public LineSink {
@@ -57,7 +54,7 @@ void limitSize(int &w, int &h) {
 
 // ---- Creation and hooks ----
 
-DrawBMP *DrawBMP::create(MetaDraw *metaDraw, DrawBackEnd *templateRaster) {
+DrawBMP *DrawBMP::create(MetaDraw *metaDraw, DrawBMP *templateRaster) {
     return new DrawBMPImpl(metaDraw, dynamic_cast<DrawBMPImpl *>(templateRaster));
 }
 
@@ -117,18 +114,18 @@ PixelImage DrawBMPImpl::getImage() const {
 // ---- Colours ----
 
 ColorBrush *DrawBMPImpl::getBrush(int color) const {
-    if (!isDynamic((unsigned)color)) return nullptr;
-    int i = PixelBlend::dynamicIndex((unsigned)color);
+    if (!isDynamicHandle(color)) return nullptr;
+    int i = ColorWord::dynamicIndex(color);
     if (i < (int)brushes.size() && brushes[i]) return brushes[i];
     return parentMode && parent ? parent->getBrush(color) : nullptr;
 }
 
 void DrawBMPImpl::setBrush(int handle, ColorBrush *brush) {
-    if (!isDynamic((unsigned)handle)) {
+    if (!isDynamicHandle(handle)) {
         delete brush;
         return;
     }
-    int i = PixelBlend::dynamicIndex((unsigned)handle);
+    int i = ColorWord::dynamicIndex(handle);
     if (i >= (int)brushes.size()) brushes.resize(i + 1, nullptr);
     delete brushes[i];
     brushes[i] = brush;
@@ -136,7 +133,7 @@ void DrawBMPImpl::setBrush(int handle, ColorBrush *brush) {
 }
 
 int DrawBMPImpl::resolveColor(int color, int x, int y) {
-    for (int level = 0; isDynamic((unsigned)color); ++level) {
+    for (int level = 0; isDynamicHandle(color); ++level) {
         if (colorDepth + level >= kMaxColorDepth) return color;
         ColorBrush *b = getBrush(color);
         if (!b) return kTransparent;
@@ -187,7 +184,7 @@ void DrawBMPImpl::solidSpan(int x1, int x2, int y, int color) {
     x1 = std::max(x1, clipLeft), x2 = std::min(x2, clipRight);
     if (x1 > x2 || y < clipTop || y > clipBottom) return;
     int *row = pixelAt(0, y);
-    if (isDynamic((unsigned)color)) {
+    if (isDynamicHandle(color)) {
         ColorBrush *b = getBrush(color);
         if (b && colorDepth < kMaxColorDepth) {
             ++colorDepth;
@@ -283,7 +280,7 @@ void DrawBMPImpl::setClipRect(int left, int top, int right, int bottom) {
 void DrawBMPImpl::setBgColor(int color) {
     bgColor = color;
     if (clipLeft > clipRight || clipTop > clipBottom) return;
-    if (isDynamic((unsigned)color)) {
+    if (isDynamicHandle(color)) {
         bool seeThrough = false;
         for (int y = clipTop; y <= clipBottom; ++y) {
             int *row = pixelAt(0, y);
@@ -314,14 +311,14 @@ void DrawBMPImpl::affineTransform(double a, double b, double c, double d, double
                                   int bgColor, int filter, double blur) {
     if (pixels.empty()) return;
     const double m[6] = {a, b, c, d, e, f};
-    int bg = isDynamic((unsigned)bgColor) ? kTransparent : bgColor;
+    int bg = isDynamicHandle(bgColor) ? kTransparent : bgColor;
     PixelBuffer out = ImageOps::affineTransform(copyBuffer(), m, bg, filter, blur);
     takeBuffer(out);
 }
 
 void DrawBMPImpl::setBgRoundedClip(int r1, int r2, int r3, int r4, int color) {
     const int radius[4] = {r1, r2, r3, r4};
-    unsigned frame = isDynamic((unsigned)color) ? (unsigned)kTransparent : (unsigned)color;
+    unsigned frame = isDynamicHandle(color) ? (unsigned)kTransparent : (unsigned)color;
     for (int corner = 0; corner < 4; ++corner) {
         int r = std::min(std::max(radius[corner], 0), std::min(width, height));
         if (r == 0) continue;
@@ -369,7 +366,7 @@ void DrawBMPImpl::setBgDropShadow(int offsetX, int offsetY, int blurRadius, int,
         }
     ImageOps::boxBlur(mask, w, h, b);
     PixelBuffer out(w, h, kTransparent);
-    unsigned shade = isDynamic((unsigned)color) ? (unsigned)kTransparent : (unsigned)color;
+    unsigned shade = isDynamicHandle(color) ? (unsigned)kTransparent : (unsigned)color;
     if (!isInvisible(shade)) {
         unsigned opacity = 255 - (shade >> 24);
         for (size_t i = 0; i < out.pixels.size(); ++i) {
@@ -847,7 +844,7 @@ void DrawBMPImpl::floodFill(int x, int y, int color, int borderColor) {
     if (x < 0 || y < 0 || x >= width || y >= height || !paints(color)) return;
     commitSuperPixels();
     int seed = pixels[(size_t)y * width + x];
-    bool toBorder = borderColor != -1;
+    bool toBorder = borderColor != kRegionOfSeed;
     if (toBorder && seed == borderColor) return;
     auto inRegion = [&](int p) { return toBorder ? p != borderColor : p == seed; };
     std::vector<char> seen((size_t)width * height, 0);

@@ -1,5 +1,6 @@
 #include "draw/raster/SuperPixels.h"
 
+#include "draw/pixel/ColorWords.h"
 #include "draw/pixel/PixelBlend.h"
 
 SuperPixels::SuperPixels() : active(false) {}
@@ -119,7 +120,7 @@ unsigned SuperPixels::average(unsigned word) const {
         r += o * ((c[i] >> 16) & 255), g += o * ((c[i] >> 8) & 255), b += o * (c[i] & 255);
         w += o;
     }
-    if (w == 0) return 0xFF000000u;
+    if (w == 0) return (unsigned)kTransparent;
     unsigned a = 255 - (w + 8) / 16;
     return (a << 24) | ((r + w / 2) / w << 16) | ((g + w / 2) / w << 8) | ((b + w / 2) / w);
 }

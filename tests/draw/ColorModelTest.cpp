@@ -60,8 +60,8 @@ TEST_F(ColorModelTest, TranslatesWords) {
     EXPECT_TRUE(ColorModel::isSpecialColor(kDynamicColorBase));
     EXPECT_FALSE(ColorModel::isSpecialColor(kTransparent));
     EXPECT_FALSE(ColorModel::isSpecialColor(0x7F000000));
-    EXPECT_TRUE(ColorModel::isDynamicColor(kDynamicColorBase + 9));
-    EXPECT_FALSE(ColorModel::isDynamicColor(kDataColor));
+    EXPECT_TRUE(ColorWord::isDynamicHandle(kDynamicColorBase + 9));
+    EXPECT_FALSE(ColorWord::isDynamicHandle(kDataColor));
 }
 
 TEST(ColorModel, PaletteLookupMatchesReference) {
@@ -147,9 +147,9 @@ TEST_F(ColorModelTest, AdjustsPlainColours) {
 
 TEST_F(ColorModelTest, DerivedColoursAreCached) {
     int g = gradient();
-    ASSERT_TRUE(ColorModel::isDynamicColor(g));
+    ASSERT_TRUE(ColorWord::isDynamicHandle(g));
     int dark = model.adjustBrightness(g, 0.5);
-    EXPECT_TRUE(ColorModel::isDynamicColor(dark));
+    EXPECT_TRUE(ColorWord::isDynamicHandle(dark));
     EXPECT_NE(dark, g);
     EXPECT_EQ(model.adjustBrightness(g, 0.5), dark);
     EXPECT_EQ(model.halfColor(g), dark);
@@ -158,7 +158,7 @@ TEST_F(ColorModelTest, DerivedColoursAreCached) {
     EXPECT_EQ(model.adjustBrightness(g, 1.0), g);
     // Context colours stay symbolic and are derived like dynamic ones.
     int context = model.adjustBrightness(kContextColor + 1, 0.5);
-    EXPECT_TRUE(ColorModel::isDynamicColor(context));
+    EXPECT_TRUE(ColorWord::isDynamicHandle(context));
     EXPECT_EQ(model.adjustBrightness(kContextColor + 1, 0.5), context);
     // A handle never handed out derives nothing.
     EXPECT_EQ(model.adjustBrightness(kDynamicColorBase + 999, 0.5), kTransparent);
@@ -166,7 +166,7 @@ TEST_F(ColorModelTest, DerivedColoursAreCached) {
     // Metal codes become one lighting colour each, made once.
     int metal = Chart::metalColor(0x123456, 90);
     int lit = model.getARGBColor(metal);
-    EXPECT_TRUE(ColorModel::isDynamicColor(lit));
+    EXPECT_TRUE(ColorWord::isDynamicHandle(lit));
     EXPECT_EQ(model.getARGBColor(metal), lit);
     int next = model.getNextDynColor();
     int brushed = model.getARGBColor(Chart::brushedMetalColor(0x123456, 2, 90));
@@ -174,8 +174,8 @@ TEST_F(ColorModelTest, DerivedColoursAreCached) {
     EXPECT_EQ(brushed, kDynamicColorBase + next + 1);
     EXPECT_NE(model.getARGBColor(Chart::metalColor(0x123456, 0)), lit);
     // Metal over a palette entry, over a live and a dead handle.
-    EXPECT_TRUE(ColorModel::isDynamicColor(model.getARGBColor(Chart::metalColor(kDataColor, 90))));
-    EXPECT_TRUE(ColorModel::isDynamicColor(model.getARGBColor(Chart::metalColor(g, 90))));
+    EXPECT_TRUE(ColorWord::isDynamicHandle(model.getARGBColor(Chart::metalColor(kDataColor, 90))));
+    EXPECT_TRUE(ColorWord::isDynamicHandle(model.getARGBColor(Chart::metalColor(g, 90))));
     EXPECT_EQ(model.getARGBColor(Chart::metalColor(kDynamicColorBase + 2000, 90)), kTransparent);
     // A palette entry that is itself a metal code is stored as its colour.
     model.setColorTable(9, metal);
@@ -231,7 +231,7 @@ TEST_F(ColorModelTest, DynamicLayerCutBack) {
     EXPECT_EQ(model.allocDynColor(), kDynamicColorBase + dynMark);
     // What was derived after the mark is made again.
     int again = model.getARGBColor(Chart::goldColor(90));
-    EXPECT_TRUE(ColorModel::isDynamicColor(again));
+    EXPECT_TRUE(ColorWord::isDynamicHandle(again));
     EXPECT_EQ(again, metal);
     EXPECT_EQ(model.getDerivedColorCount(), derivedMark + 1);
     // A cut back to more entries than there are pads with empty entries.
@@ -249,7 +249,7 @@ TEST_F(ColorModelTest, ConstructorsRejectBadArguments) {
     EXPECT_EQ(model.gradientColor(IntArray(three, 3), 90, 1, 0, 0), kTransparent);
     EXPECT_EQ(model.gradientColor(IntArray(pairs, 4), NAN, 1, 0, 0), kTransparent);
     EXPECT_EQ(model.relativeLinearGradient(IntArray(three, 2), 0, -1), kTransparent);
-    EXPECT_TRUE(ColorModel::isDynamicColor(model.gradientColor(IntArray(pairs, 4), 90, 1, 0, 0)));
+    EXPECT_TRUE(ColorWord::isDynamicHandle(model.gradientColor(IntArray(pairs, 4), 90, 1, 0, 0)));
 
     // Equal ends make no gradient.
     EXPECT_EQ(model.gradientColor(0, 0, 9, 9, kDataColor, 0xFF3333), 0xFF3333);
@@ -258,7 +258,7 @@ TEST_F(ColorModelTest, ConstructorsRejectBadArguments) {
     EXPECT_EQ(model.patternColor(IntArray(), 1, 0, 0), kTransparent);
     EXPECT_EQ(model.patternColor(nullptr, 0, 0), kTransparent);
     EXPECT_EQ(model.patternColor("", 0, 0), kTransparent);
-    EXPECT_TRUE(ColorModel::isDynamicColor(model.patternColor(IntArray(pairs, 4), 9, 0, 0)));
+    EXPECT_TRUE(ColorWord::isDynamicHandle(model.patternColor(IntArray(pairs, 4), 9, 0, 0)));
 
     EXPECT_EQ(model.angleGradientColor(0, 0, 0, 90, 0, 9, IntArray()), kTransparent);
     EXPECT_EQ(model.angleGradientColor(0, 0, 0, 90, 0, 9, IntArray(three, 1)), 0);
@@ -266,14 +266,14 @@ TEST_F(ColorModelTest, ConstructorsRejectBadArguments) {
 
     EXPECT_EQ(model.dashLineColor(0x123456, 0), 0x123456);
     EXPECT_EQ(model.dashLineColor(kNoColor, kDashLine), kTransparent);
-    EXPECT_TRUE(ColorModel::isDynamicColor(model.dashLineColor(kLineColor, kDotLine)));
+    EXPECT_TRUE(ColorWord::isDynamicHandle(model.dashLineColor(kLineColor, kDotLine)));
 
     const int lighting[] = {0, 512, 256, 2048};
     EXPECT_EQ(model.lightingColor(0x123456, IntArray(lighting, 3), 90), kTransparent);
     EXPECT_EQ(model.lightingColor(kNoColor, IntArray(lighting, 4), 90), kTransparent);
     EXPECT_EQ(model.radialLightingColor(0, 0, 9, 9, 0x123456, IntArray()), kTransparent);
     EXPECT_TRUE(
-        ColorModel::isDynamicColor(model.lightingColor(0x123456, IntArray(lighting, 4), 90)));
+        ColorWord::isDynamicHandle(model.lightingColor(0x123456, IntArray(lighting, 4), 90)));
 
     EXPECT_EQ(model.multiLayerColor(IntArray()), kTransparent);
     EXPECT_EQ(model.multiLayerColor(IntArray(pairs + 1, 1)), 0xFF0000);

@@ -3,12 +3,11 @@
 #include <string>
 
 #include "draw/canvas/DrawAreaImpl.h"
-#include "draw/list/DrawBackEnd.h"
 #include "draw/list/MetaDraw.h"
 #include "draw/pixel/ColorWords.h"
+#include "draw/raster/DrawBMPImpl.h"
 #include "foundation/Constants.h"
 #include "tests/draw/DrawAreaTestSupport.h"
-#include "tests/draw/NullBackEnd.h"
 
 namespace {
 
@@ -20,38 +19,39 @@ int countOf(const std::string &text, const std::string &what) {
 }
 
 // Counts what a replay hands to the raster.
-struct CountingRaster : NullBackEnd {
+struct CountingRaster : DrawBMPImpl {
     static int created;
     int sizes = 0, polyLines = 0, rects = 0;
-    CountingRaster() { ++created; }
-    void setSize(int, int, int) override { ++sizes; }
-    void polyLine(int, int, DoubleArray) override { ++polyLines; }
-    void roundedRect(double, double, double, double, int, int, int) override { ++rects; }
+    explicit CountingRaster(MetaDraw *list) : DrawBMPImpl(list, nullptr) { ++created; }
+    void setSize(int w, int h, int bg) override {
+        ++sizes;
+        DrawBMPImpl::setSize(w, h, bg);
+    }
+    void polyLine(int color, int width, DoubleArray xy) override {
+        ++polyLines;
+        DrawBMPImpl::polyLine(color, width, xy);
+    }
+    void roundedRect(double x1, double y1, double x2, double y2, int r, int edge,
+                     int fill) override {
+        ++rects;
+        DrawBMPImpl::roundedRect(x1, y1, x2, y2, r, edge, fill);
+    }
 };
 int CountingRaster::created = 0;
 
-// Installs raster hooks for one test and puts the old ones back.
-class HookScope {
+// A canvas whose rasters count.
+class CountingCanvas : public DrawAreaImpl {
 public:
-    explicit HookScope(const DrawAreaImpl::BackEndHooks &h) : saved(DrawAreaImpl::hooks) {
-        DrawAreaImpl::hooks = h;
-    }
-    ~HookScope() { DrawAreaImpl::hooks = saved; }
-
-private:
-    DrawAreaImpl::BackEndHooks saved;
+    DrawBMP *createRaster() override { return new CountingRaster(getMetaDraw()); }
 };
 
-int fakePixel = kTransparent;
-
-DrawAreaImpl::BackEndHooks countingHooks() {
-    DrawAreaImpl::BackEndHooks h = {};
-    h.createRaster = [](DrawAreaImpl *, DrawBackEnd *) -> DrawBackEnd * {
-        return new CountingRaster();
-    };
-    h.getPixel = [](DrawBackEnd *, int, int) { return fakePixel; };
-    return h;
-}
+// A counting canvas that is released at the end of the test.
+struct CountingHolder {
+    DrawArea *canvas = new CountingCanvas();
+    ~CountingHolder() { canvas->destroy(); }
+    DrawArea *operator->() const { return canvas; }
+    DrawArea *get() const { return canvas; }
+};
 
 }  // namespace
 
@@ -234,23 +234,20 @@ TEST(DrawAreaRecording, MergeCloneAndTile) {
 }
 
 TEST(DrawAreaRecording, TileWithOnePixel) {
-    HookScope scope(countingHooks());
     CanvasHolder c, dot;
     c->setSize(20, 10, 0xffffff);
-    dot->setSize(1, 1, 0);
-    fakePixel = kTransparent;
+    dot->setSize(1, 1, kTransparent);
     c->tile(dot.get(), 0);
     EXPECT_EQ("SetSize(20, 10, 0xffffff)\n", listingOf(c.get()));
-    fakePixel = 0x336699;
+    dot->setSize(1, 1, 0x336699);
     c->tile(dot.get(), 0);
     EXPECT_EQ("SetSize(20, 10, 0xffffff)\nRoundedRect(0, 0, 19, 9, 0, 0x336699, 0x336699)\n",
               listingOf(c.get()));
 }
 
 TEST(DrawAreaRecording, RasterReplaysOnlyNewRecords) {
-    HookScope scope(countingHooks());
     CountingRaster::created = 0;
-    CanvasHolder c;
+    CountingHolder c;
     c->setSize(100, 50, 0xffffff);
     auto *raster = static_cast<CountingRaster *>(c->getRaster());
     ASSERT_NE(nullptr, raster);
@@ -299,8 +296,7 @@ TEST(DrawAreaRecording, DynamicLayer) {
 }
 
 TEST(DrawAreaRecording, DynamicLayerRewindsTheRaster) {
-    HookScope scope(countingHooks());
-    CanvasHolder c;
+    CountingHolder c;
     c->setSize(100, 50, 0xffffff);
     c->getRaster();
     c->initDynamicLayer();

@@ -6,6 +6,7 @@
 #include "draw/canvas/DrawAreaImpl.h"
 #include "draw/canvas/GlobalResources.h"
 #include "draw/canvas/TextAntiAlias.h"
+#include "draw/raster/DrawBMP.h"
 #include "foundation/Constants.h"
 #include "tests/draw/DrawAreaTestSupport.h"
 
@@ -144,7 +145,9 @@ TEST(DrawAreaSettings, TextAntiAliasModeWord) {
     EXPECT_EQ(2, impl->getTextAAMode());
     c->setAntiAlias(false, kAntiAlias);
     EXPECT_EQ(1, impl->getTextAAMode());
-    EXPECT_FALSE(impl->getAntiAliasShape());
+    // The settings reach the raster.
+    EXPECT_FALSE(c->getRaster()->getShapeAntiAlias());
+    EXPECT_EQ(kAntiAlias, c->getRaster()->getTextAntiAlias());
 }
 
 TEST(DrawAreaSettings, Limits) {

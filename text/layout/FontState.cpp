@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "draw/canvas/DrawArea.h"
+#include "draw/pixel/ColorWords.h"
 #include "text/font/FontDriver.h"
 #include "text/font/FontFace.h"
 #include "text/layout/Glyph.h"
@@ -12,7 +13,7 @@ FontState::FontState()
       height(10),
       width(0),
       color(Glyph::kDrawColor),
-      bgColor((int)0xFF000000),
+      bgColor(kTransparent),
       underline(0),
       pendingAdvance(-1),
       pendingAdvanceTo(-1),

@@ -1,5 +1,6 @@
 #include "text/layout/Glyph.h"
 
+#include "draw/pixel/ColorWords.h"
 #include "text/font/FontFace.h"
 #include "text/font/FontGlyph.h"
 
@@ -15,7 +16,7 @@ Glyph::Glyph()
       descender(0),
       lineSpacing(0),
       color(kDrawColor),
-      bgColor((int)0xFF000000),
+      bgColor(kTransparent),
       underline(0),
       spacerWidth(0),
       spacerHeight(0),

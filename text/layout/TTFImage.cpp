@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "draw/canvas/DrawArea.h"
+#include "draw/pixel/ColorWords.h"
 #include "foundation/ArrayViews.h"
 #include "text/layout/TextTransform.h"
 #include "text/markup/BlockAttributes.h"
@@ -13,7 +14,6 @@
 
 namespace {
 
-const int kNoBackground = (int)0xFF000000;
 TTFImage::SymbolPainter symbolPainter = nullptr;
 
 }  // namespace
@@ -29,8 +29,8 @@ TTFImage::TTFImage(DrawArea *d, int w, int h, int v)
       valign(v),
       picture(nullptr),
       isSymbol(false),
-      color(kNoBackground),
-      edgeColor(kNoBackground) {}
+      color(kTransparent),
+      edgeColor(kTransparent) {}
 
 TTFImage::~TTFImage() {
     if (picture) picture->destroy();
@@ -84,7 +84,7 @@ bool TTFImage::loadPicture(const std::wstring &file, int wantWidth, int wantHeig
         wantWidth = (int)std::floor(0.5 + wantHeight * (double)w / h);
     if (wantWidth > 0 && (wantWidth != w || wantHeight != h)) {
         DrawArea *sized = DrawArea::create();
-        sized->setSize(wantWidth, wantHeight, kNoBackground);
+        sized->setSize(wantWidth, wantHeight, kTransparent);
         source->clone(sized, 0, 0, 7, wantWidth, wantHeight, 2, 1.0);
         source->destroy();
         source = sized;

@@ -6,6 +6,7 @@
 #include "draw/canvas/DrawArea.h"
 #include "draw/list/GlyphText.h"
 #include "draw/list/MetaDraw.h"
+#include "draw/pixel/ColorWords.h"
 #include "foundation/ArrayViews.h"
 #include "text/font/FontFace.h"
 #include "text/font/FontGlyph.h"
@@ -14,9 +15,7 @@
 #include "text/layout/LineBreaker.h"
 #include "text/layout/TextTransform.h"
 
-namespace {
-const int kNoBackground = (int)0xFF000000;
-}
+namespace {}
 
 TTFTextImpl::TTFTextImpl(DrawArea *d, GlyphContainer *g, int b, int e, FontFace *f, bool v)
     : canvas(d),
@@ -203,7 +202,7 @@ void TTFTextImpl::drawBackgrounds(const TextTransform &t, double left, double to
         int color = glyphs->at(i).bgColor;
         int j = i + 1;
         while (j < end && glyphs->at(j).bgColor == color) ++j;
-        if (color != kNoBackground)
+        if (color != kTransparent)
             fillQuad(t, left + glyphs->at(i).x - startX, top,
                      left + glyphs->at(j - 1).right - startX, top + ascent + descent, color);
         i = j;

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <cwctype>
 
+#include "draw/pixel/ColorWords.h"
+
 namespace {
 
 struct AlignWord {
@@ -14,8 +16,6 @@ const AlignWord kAlignWords[] = {
     {L"baseline", 0},  {L"top", 1},       {L"bottom", 2}, {L"center", 3}, {L"middle", 3},
     {L"abscenter", 4}, {L"absmiddle", 4}, {L"left", 5},   {L"right", 6},
 };
-
-const int kTransparent = (int)0xFF000000;
 
 }  // namespace
 

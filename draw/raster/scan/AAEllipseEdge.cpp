@@ -4,6 +4,7 @@
 #include <cmath>
 #include <vector>
 
+#include "draw/pixel/ColorWords.h"
 #include "draw/raster/scan/ShapeTarget.h"
 
 AAEllipseEdge::AAEllipseEdge(int color, double cx, double cy, double rx, double ry, double x1,
@@ -61,7 +62,7 @@ AASpan AAEllipseEdge::spanAt(double y) const {
 }
 
 void AAEllipseEdge::drawOutline(ShapeTarget *target) const {
-    if ((unsigned)color >> 24 == 255 && (unsigned)color >> 16 != 0xFFFEu) return;
+    if (!ColorWord::paints(color)) return;
     int clipLeft, clipTop, clipRight, clipBottom;
     target->getClip(&clipLeft, &clipTop, &clipRight, &clipBottom);
     // Only the rows near the clip are walked.
