@@ -52,7 +52,7 @@ void limitSize(int &w, int &h) {
 
 }  // namespace
 
-// ---- Creation and hooks ----
+// ---- Creation and the image decoder ----
 
 DrawBMP *DrawBMP::create(MetaDraw *metaDraw, DrawBMP *templateRaster) {
     return new DrawBMPImpl(metaDraw, dynamic_cast<DrawBMPImpl *>(templateRaster));

@@ -1,5 +1,8 @@
 #include "text/font/FontFileEntry.h"
 
+#include <ft2build.h>
+#include FT_FREETYPE_H
+
 #include <cstdlib>
 
 #include "text/font/FontFace.h"

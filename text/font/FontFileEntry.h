@@ -1,10 +1,9 @@
 #pragma once
 
-#include <ft2build.h>
-#include FT_FREETYPE_H
-
 #include <map>
 #include <string>
+
+#include "text/font/FreeTypeHandles.h"
 
 class LibTTFFontDriver;
 class LibTTFSizedFontFace;

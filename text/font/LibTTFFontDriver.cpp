@@ -1,5 +1,7 @@
 #include "text/font/LibTTFFontDriver.h"
 
+#include <ft2build.h>
+#include FT_FREETYPE_H
 #include FT_LCD_FILTER_H
 
 #include <cerrno>

@@ -1,14 +1,12 @@
 #pragma once
 
-#include <ft2build.h>
-#include FT_FREETYPE_H
-
 #include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "text/font/FontDriver.h"
+#include "text/font/FreeTypeHandles.h"
 
 class FontFileEntry;
 class FontName;

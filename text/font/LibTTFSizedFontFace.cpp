@@ -1,5 +1,7 @@
 #include "text/font/LibTTFSizedFontFace.h"
 
+#include <ft2build.h>
+#include FT_FREETYPE_H
 #include FT_OUTLINE_H
 
 #include <cmath>
@@ -43,6 +45,32 @@ FT_Render_Mode renderModeFor(int mode) {
     if (mode == 0) return FT_RENDER_MODE_MONO;
     if (mode == 4 || mode == 5) return FT_RENDER_MODE_LCD;
     return FT_RENDER_MODE_NORMAL;
+}
+
+// The slot's bitmap as one byte a sample (three for LCD), top row first.
+void copyBitmap(FT_GlyphSlot slot, GlyphBitmap *image) {
+    const FT_Bitmap &b = slot->bitmap;
+    int bytesPerPixel = b.pixel_mode == FT_PIXEL_MODE_LCD ? 3 : 1;
+    int samples = b.width;
+    if (b.pixel_mode != FT_PIXEL_MODE_MONO && b.pixel_mode != FT_PIXEL_MODE_GRAY &&
+        b.pixel_mode != FT_PIXEL_MODE_LCD)
+        samples = 0;
+    image->bytesPerPixel = bytesPerPixel;
+    image->pitch = samples;
+    image->rows = samples > 0 ? (int)b.rows : 0;
+    image->left = slot->bitmap_left;
+    image->top = slot->bitmap_top;
+    image->data.assign((size_t)image->pitch * image->rows, 0);
+    for (int y = 0; y < image->rows; ++y) {
+        const unsigned char *src =
+            b.pitch >= 0 ? b.buffer + (size_t)y * b.pitch
+                         : b.buffer + (size_t)(image->rows - 1 - y) * (size_t)(-b.pitch);
+        unsigned char *dst = &image->data[(size_t)y * image->pitch];
+        for (int x = 0; x < samples; ++x)
+            dst[x] = b.pixel_mode == FT_PIXEL_MODE_MONO
+                         ? ((src[x >> 3] & (0x80 >> (x & 7))) ? 255 : 0)
+                         : src[x];
+    }
 }
 
 }  // namespace
@@ -136,32 +164,6 @@ FontGlyph *LibTTFSizedFontFace::getGlyph(int ch, int flags) {
     }
     if (glyph) glyph->addRef();
     return glyph;
-}
-
-bool LibTTFSizedFontFace::copyBitmap(FT_GlyphSlot slot, GlyphBitmap *image) {
-    const FT_Bitmap &b = slot->bitmap;
-    int bytesPerPixel = b.pixel_mode == FT_PIXEL_MODE_LCD ? 3 : 1;
-    int samples = b.width;
-    if (b.pixel_mode != FT_PIXEL_MODE_MONO && b.pixel_mode != FT_PIXEL_MODE_GRAY &&
-        b.pixel_mode != FT_PIXEL_MODE_LCD)
-        samples = 0;
-    image->bytesPerPixel = bytesPerPixel;
-    image->pitch = samples;
-    image->rows = samples > 0 ? (int)b.rows : 0;
-    image->left = slot->bitmap_left;
-    image->top = slot->bitmap_top;
-    image->data.assign((size_t)image->pitch * image->rows, 0);
-    for (int y = 0; y < image->rows; ++y) {
-        const unsigned char *src =
-            b.pitch >= 0 ? b.buffer + (size_t)y * b.pitch
-                         : b.buffer + (size_t)(image->rows - 1 - y) * (size_t)(-b.pitch);
-        unsigned char *dst = &image->data[(size_t)y * image->pitch];
-        for (int x = 0; x < samples; ++x)
-            dst[x] = b.pixel_mode == FT_PIXEL_MODE_MONO
-                         ? ((src[x >> 3] & (0x80 >> (x & 7))) ? 255 : 0)
-                         : src[x];
-    }
-    return true;
 }
 
 LibTTFFontGlyph *LibTTFSizedFontFace::renderGlyph(int ch, int flags) {

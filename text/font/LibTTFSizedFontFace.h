@@ -1,8 +1,5 @@
 #pragma once
 
-#include <ft2build.h>
-#include FT_FREETYPE_H
-
 #include <map>
 
 #include "text/font/FontFace.h"
@@ -45,7 +42,6 @@ public:
 
 private:
     LibTTFFontGlyph *renderGlyph(int ch, int flags);
-    bool copyBitmap(FT_GlyphSlot slot, GlyphBitmap *image);
 
     FontFileEntry *entry;
     int requestedStyle;
