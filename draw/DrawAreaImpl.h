@@ -305,8 +305,7 @@ public:
 
     MetaDraw *getMetaDraw() override { return metaDraw; }
 
-    // The word handed to text creation for this canvas's text anti-alias setting.
-    int getTextAAMode() const;
+    int getTextAAMode() const override;
 
     // Raster settings, read by the back end.
     bool getAntiAliasShape() const { return antiAliasShape != 0; }

@@ -8,19 +8,15 @@
 #include "draw/DrawArea.h"
 #include "foundation/ArrayViews.h"
 #include "text/BlockAttributes.h"
+#include "text/TextSymbolService.h"
 #include "text/TextTransform.h"
 #include "text/VSMLTag.h"
 
 namespace {
 
 const int kNoBackground = (int)0xFF000000;
-TTFImage::SymbolPainter symbolPainter = nullptr;
 
 }  // namespace
-
-void TTFImage::setSymbolPainter(SymbolPainter painter) {
-    symbolPainter = painter;
-}
 
 TTFImage::TTFImage(DrawArea *d, int w, int h, int v)
     : canvas(d),
@@ -115,9 +111,8 @@ void TTFImage::drawAt(const TextTransform &t, double left, double top, int) {
         return;
     }
     if (!isSymbol) return;
-    SymbolPainter painter = symbolPainter ? symbolPainter : paintPlainShape;
-    if (!painter(canvas, symbol, cx, cy, width, height, color, edgeColor) &&
-        painter != paintPlainShape)
+    TextSymbolService *service = TextSymbolService::get();
+    if (!service || !service->drawSymbol(canvas, symbol, cx, cy, width, height, color, edgeColor))
         paintPlainShape(canvas, symbol, cx, cy, width, height, color, edgeColor);
 }
 
