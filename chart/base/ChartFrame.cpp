@@ -16,6 +16,7 @@ bool anyRadius(const int radius[4]) {
 }
 
 void outline(DrawArea *d, int x1, int y1, int x2, int y2, const int radius[4], int color) {
+    if (d->getARGBColor(color) == kTransparent) return;
     const int edges[4] = {color, color, color, color};
     d->roundedRect(x1, y1, x2, y2, radius, edges, kTransparent);
 }
@@ -45,6 +46,7 @@ void ChartFrame::paintThickFrame(DrawArea *d, int width, int height, const int r
 
 void ChartFrame::paintEdge(DrawArea *d, int width, int height, const int radius[4], int edgeColor,
                            int raisedEffect) {
+    if (raisedEffect == 0 && d->getARGBColor(edgeColor) == kTransparent) return;
     if (!anyRadius(radius)) {
         d->rect(0, 0, width - 1, height - 1, edgeColor, kTransparent, raisedEffect);
         return;

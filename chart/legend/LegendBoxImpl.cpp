@@ -65,14 +65,9 @@ void LegendBoxImpl::addKey(const char *text, int color, int lineWidth, DrawArea 
 }
 
 void LegendBoxImpl::addKey2(int pos, const char *text, int color, int lineWidth, DrawArea *icon) {
-    DataSymbol *symbol = nullptr;
-    if (icon) {
-        symbol = new DataSymbol();
-        symbol->setCustom(icon);
-    }
     bool front = pos >= 0;
     LegendItem *item = new LegendItem(front ? pos : kUserKeyOrder, new UserLegendText(text), color,
-                                      lineWidth, symbol, true, false);
+                                      lineWidth, nullptr, icon, false);
     (front ? frontItems : items).push_back(item);
 }
 
@@ -83,13 +78,13 @@ void LegendBoxImpl::addText(const char *text) {
 void LegendBoxImpl::addText2(int pos, const char *text) {
     bool front = pos >= 0;
     LegendItem *item = new LegendItem(front ? pos : kUserKeyOrder, new UserLegendText(text),
-                                      kTransparent, 0, nullptr, false, true);
+                                      kTransparent, 0, nullptr, nullptr, true);
     (front ? frontItems : items).push_back(item);
 }
 
 void LegendBoxImpl::addLegendItem(int order, LegendText *text, int color, int lineWidth,
                                   DataSymbol *symbol) {
-    items.push_back(new LegendItem(order, text, color, lineWidth, symbol, false, false));
+    items.push_back(new LegendItem(order, text, color, lineWidth, symbol, nullptr, false));
 }
 
 void LegendBoxImpl::setCols(int n) {

@@ -17,7 +17,7 @@ const int kNoLimit = 0x3FFFFFFF;
 }  // namespace
 
 LegendItem::LegendItem(int order, LegendText *text, int color, int lineWidth, DataSymbol *symbol,
-                       bool ownsSymbol, bool keyless)
+                       DrawArea *icon, bool keyless)
     : x(0),
       y(0),
       width(0),
@@ -27,13 +27,21 @@ LegendItem::LegendItem(int order, LegendText *text, int color, int lineWidth, Da
       color(color),
       lineWidth(lineWidth),
       symbol(symbol),
-      ownsSymbol(ownsSymbol),
+      icon(icon),
       keyless(keyless),
-      textObject(nullptr) {}
+      textObject(nullptr) {
+    if (!icon) return;
+    icon->retain();
+    this->symbol = new DataSymbol();
+    this->symbol->setCustom(icon);
+}
 
 LegendItem::~LegendItem() {
     if (textObject) textObject->destroy();
-    if (ownsSymbol) delete symbol;
+    if (icon) {
+        delete symbol;
+        icon->destroy();
+    }
     delete text;
 }
 
@@ -46,9 +54,7 @@ bool LegendItem::hasKey(const LegendKeyStyle &style) const {
 }
 
 std::string LegendItem::getText(const char *templateText, int flags) const {
-    if (!text) return "";
-    // A plain text item shows its own words, not the key template.
-    return text->getText(keyless ? "{dataSetName}" : templateText, flags);
+    return text ? text->getText(templateText, flags) : "";
 }
 
 int LegendItem::firstLineHeight() const {
@@ -62,7 +68,8 @@ void LegendItem::layout(DrawArea *d, const LegendKeyStyle &style, int maxWidth) 
     bool key = hasKey(style);
     int keyPart = key ? style.keyWidth + style.keyGap : 0;
     int wrap = maxWidth >= kNoLimit ? 0 : std::max(maxWidth - keyPart, 1);
-    std::string words = getText(style.templateText, 0);
+    // A plain text item shows its own words, not the key template.
+    std::string words = getText(keyless ? "{dataSetName}" : style.templateText, 0);
     textObject = TTFText::create(d, words.c_str(), style.font, style.fontIndex, style.fontHeight,
                                  style.fontWidth, 0, false, d->getTextAAMode(), wrap, 0, 0);
     int textWidth = textObject ? textObject->getWidth() : 0;

@@ -27,9 +27,10 @@ struct LegendKeyStyle {
 // One key of a legend: an icon and a text, placed by the legend.
 class LegendItem {
 public:
-    // Takes text and, if ownsSymbol, symbol.  A keyless item shows its text only.
+    // Takes text; borrows symbol.  An icon, kept with a reference of its own,
+    // stands in for the symbol.  A keyless item shows its text only.
     LegendItem(int order, LegendText *text, int color, int lineWidth, DataSymbol *symbol,
-               bool ownsSymbol, bool keyless);
+               DrawArea *icon, bool keyless);
     ~LegendItem();
     LegendItem(const LegendItem &) = delete;
     LegendItem &operator=(const LegendItem &) = delete;
@@ -63,7 +64,7 @@ private:
     int color;
     int lineWidth;
     DataSymbol *symbol;
-    bool ownsSymbol;
+    DrawArea *icon;
     bool keyless;
     TTFText *textObject;
 };

@@ -42,7 +42,7 @@ bool needsOddSize(int code) {
 }
 
 int makeOdd(int size) {
-    return size % 2 ? size : size + 1;
+    return size % 2 || size == 0 ? size : size + 1;
 }
 
 bool visible(DrawArea *d, int color) {
