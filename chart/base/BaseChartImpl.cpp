@@ -28,6 +28,22 @@ const int kViewAreaProperty = 0x200;
 const int kAutoGrid = -2;
 const int kMaxLegendCols = 1000;
 const int kSameAsOffsetX = 0x7FFFFFFF;
+const int kMaxFrameThickness = 1 << 20;
+
+int clampToInt(long long v) {
+    return (int)std::max(std::min(v, 0x7FFFFFFFLL), -0x7FFFFFFFLL);
+}
+
+// A size and the room a shadow adds on either side.
+int withShadow(int size, int offset, int blur) {
+    long long b = blur, o = offset;
+    return clampToInt(size + std::max(0LL, o + b) + std::max(0LL, b - o));
+}
+
+// A coordinate moved by the room the shadow takes before the chart.
+int shiftedByShadow(int v, int offset, int blur) {
+    return clampToInt(v + std::max(0LL, (long long)blur - offset));
+}
 
 }  // namespace
 
@@ -127,7 +143,7 @@ void BaseChartImpl::setRoundedFrame(int extColor, int r1, int r2, int r3, int r4
 
 void BaseChartImpl::setThickFrame(int thickness, int color, int outerEdgeColor,
                                   int innerEdgeColor) {
-    frameThickness = std::max(thickness, 0);
+    frameThickness = std::min(std::max(thickness, 0), kMaxFrameThickness);
     if (outerEdgeColor != -1) edgeColor = outerEdgeColor;
     frameColor = color == -1 ? edgeColor : color;
     frameInnerEdgeColor = innerEdgeColor == -1 ? color : innerEdgeColor;
@@ -155,15 +171,11 @@ bool BaseChartImpl::hasShadow() const {
 }
 
 int BaseChartImpl::getWidthWithShadow() const {
-    if (!hasShadow()) return width;
-    return width + std::max(0, shadowOffsetX + shadowBlur) +
-           std::max(0, shadowBlur - shadowOffsetX);
+    return hasShadow() ? withShadow(width, shadowOffsetX, shadowBlur) : width;
 }
 
 int BaseChartImpl::getHeightWithShadow() const {
-    if (!hasShadow()) return height;
-    return height + std::max(0, shadowOffsetY + shadowBlur) +
-           std::max(0, shadowBlur - shadowOffsetY);
+    return hasShadow() ? withShadow(height, shadowOffsetY, shadowBlur) : height;
 }
 
 int BaseChartImpl::getAbsOffsetX() {
@@ -533,8 +545,8 @@ const char *BaseChartImpl::getHTMLImageMap(const char *url, const char *queryFor
                                            const char *extraAttr, int offsetX, int offsetY) {
     // The shadow's blur on the left and top moves the chart in the picture.
     if (hasShadow()) {
-        offsetX += std::max(0, shadowBlur - shadowOffsetX);
-        offsetY += std::max(0, shadowBlur - shadowOffsetY);
+        offsetX = shiftedByShadow(offsetX, shadowOffsetX, shadowBlur);
+        offsetY = shiftedByShadow(offsetY, shadowOffsetY, shadowBlur);
     }
     const char *map = onGetHTMLImageMap(url, queryFormat, extraAttr, offsetX, offsetY);
     return keepText(map ? map : "");

@@ -15,16 +15,16 @@
 namespace {
 
 const int kNoLimit = 0x3FFFFFFF;
+const int kMaxCols = 1000;
+
+// A pixel position from a sum or product that may leave the int range.
+int toPixel(double v) {
+    return (int)std::max(std::min(v, (double)BoxImpl::kMaxCoordinate),
+                         -(double)BoxImpl::kMaxCoordinate);
+}
 const char *const kDefaultTemplate = "{dataSetName}";
 const char *const kDefaultQuery = "dataSet={dataSet}&dataSetName={dataSetName}";
 enum { kLeftMargin, kRightMargin, kTopMargin, kBottomMargin };
-
-bool isRightAlignment(int a) {
-    return a == kBottomRight || a == kRight || a == kTopRight;
-}
-bool isCenterAlignment(int a) {
-    return a == kBottomCenter || a == kCenter || a == kTopCenter;
-}
 
 }  // namespace
 
@@ -88,7 +88,7 @@ void LegendBoxImpl::addLegendItem(int order, LegendText *text, int color, int li
 }
 
 void LegendBoxImpl::setCols(int n) {
-    cols = n;
+    cols = std::max(std::min(n, kMaxCols), -kMaxCols);
     gridMode = n != 0;
 }
 
@@ -101,14 +101,14 @@ void LegendBoxImpl::setLineStyleKey(bool b) {
 }
 
 void LegendBoxImpl::setKeySize(int w, int h, int gap) {
-    keyWidth = w;
-    keyHeight = h;
-    keyGap = gap;
+    keyWidth = limit(w);
+    keyHeight = limit(h);
+    keyGap = limit(gap);
 }
 
 void LegendBoxImpl::setKeySpacing(int keys, int lines) {
-    keySpacing = keys;
-    lineSpacing = lines;
+    keySpacing = limit(keys);
+    lineSpacing = limit(lines);
 }
 
 void LegendBoxImpl::setKeyBorder(int edge, int raised) {
@@ -182,7 +182,7 @@ int LegendBoxImpl::textLimit(DrawArea *d) const {
     int sides = margin[kLeftMargin] + margin[kRightMargin];
     if (cols < 2) return widthGiven ? width - sides : kNoLimit;
     int room = (widthGiven ? width : roomOnCanvas(d)) - sides;
-    if (gridMode) room = (room + (1 - cols) * spacing) / cols;
+    if (gridMode) room = toPixel((room + (1.0 - cols) * spacing) / cols);
     return room;
 }
 
@@ -209,7 +209,8 @@ void LegendBoxImpl::layout(DrawArea *d) {
 }
 
 void LegendBoxImpl::flowItems(int rowWidth, int *usedWidth, int *usedHeight) {
-    int px = 0, py = 0, rowHeight = 0;
+    double px = 0, py = 0, widest = 0;
+    int rowHeight = 0;
     rowCount = items.empty() ? 0 : 1;
     for (size_t i = 0; i < items.size(); ++i) {
         LegendItem *item = items[i];
@@ -222,24 +223,29 @@ void LegendBoxImpl::flowItems(int rowWidth, int *usedWidth, int *usedHeight) {
                 px += spacing;
             }
         }
-        item->x = px;
-        item->y = py;
+        item->x = toPixel(px);
+        item->y = toPixel(py);
         px += item->width;
         rowHeight = std::max(rowHeight, item->height);
-        *usedWidth = std::max(*usedWidth, px);
+        widest = std::max(widest, px);
     }
-    *usedHeight = items.empty() ? 0 : py + rowHeight;
+    *usedWidth = toPixel(widest);
+    *usedHeight = items.empty() ? 0 : toPixel(py + rowHeight);
 }
 
 void LegendBoxImpl::gridItems(int rowWidth, int *usedWidth, int *usedHeight) {
     int widest = 0;
     for (LegendItem *item : items) widest = std::max(widest, item->width);
-    int n = cols > 0 ? cols : std::max((rowWidth + spacing) / std::max(widest + spacing, 1), 1);
+    int n = cols > 0 ? cols
+                     : std::min(std::max((rowWidth + spacing) / std::max(widest + spacing, 1), 1),
+                                kMaxCols);
     int columnWidth = widest;
-    if (widthGiven)
-        columnWidth = std::max(
-            (width - margin[kLeftMargin] - margin[kRightMargin] + (1 - n) * spacing) / n, 1);
-    int rowTop = 0, rowHeight = 0;
+    if (widthGiven) {
+        double room = width - margin[kLeftMargin] - margin[kRightMargin] + (1.0 - n) * spacing;
+        columnWidth = std::max(toPixel(room / n), 1);
+    }
+    double rowTop = 0, step = (double)columnWidth + spacing;
+    int rowHeight = 0;
     rowCount = 0;
     for (size_t i = 0; i < items.size(); ++i) {
         int column = (int)(i % n);
@@ -248,39 +254,27 @@ void LegendBoxImpl::gridItems(int rowWidth, int *usedWidth, int *usedHeight) {
             rowHeight = 0;
         }
         if (column == 0) ++rowCount;
-        items[i]->x = (int)std::floor(column * (double)(columnWidth + spacing) + 0.5);
-        items[i]->y = rowTop;
+        items[i]->x = toPixel(std::floor(column * step + 0.5));
+        items[i]->y = toPixel(rowTop);
         rowHeight = std::max(rowHeight, items[i]->height);
     }
-    int used = std::min((int)items.size(), n);
-    *usedWidth =
-        items.empty() ? 0 : (int)std::floor(used * (double)(columnWidth + spacing) - spacing + 0.5);
-    *usedHeight = items.empty() ? 0 : rowTop + rowHeight;
+    int used = (int)std::min(items.size(), (size_t)n);
+    *usedWidth = items.empty() ? 0 : toPixel(std::floor(used * step - spacing + 0.5));
+    *usedHeight = items.empty() ? 0 : toPixel(rowTop + rowHeight);
 }
 
 void LegendBoxImpl::placeBox(int usedWidth, int usedHeight) {
+    // Keys in a box of given size stand at the alignment of the room they leave.
     int a = getAlignment();
-    int sidesX = margin[kLeftMargin] + margin[kRightMargin];
-    int sidesY = margin[kTopMargin] + margin[kBottomMargin];
-    int shiftX = 0, shiftY = 0;
-    if (widthGiven) {
-        shiftX = DrawArea::alignX(width - sidesX - usedWidth, a);
-    } else {
-        width = usedWidth + sidesX;
-        if (isRightAlignment(a))
-            x = x + 1 - width;
-        else if (isCenterAlignment(a))
-            x = x - margin[kLeftMargin] - usedWidth / 2;
-    }
-    if (heightGiven) {
-        shiftY = DrawArea::alignY(height - sidesY - usedHeight, a);
-    } else {
-        height = usedHeight + sidesY;
-        if (a >= kBottomLeft && a <= kBottomRight)
-            y = y + 1 - height;
-        else if (a >= kLeft && a <= kRight)
-            y = y - margin[kTopMargin] - usedHeight / 2;
-    }
+    int shiftX =
+        !widthGiven
+            ? 0
+            : DrawArea::alignX(width - margin[kLeftMargin] - margin[kRightMargin] - usedWidth, a);
+    int shiftY =
+        !heightGiven
+            ? 0
+            : DrawArea::alignY(height - margin[kTopMargin] - margin[kBottomMargin] - usedHeight, a);
+    placeByAlignment(usedWidth, usedHeight, margin);
     contentLeft = margin[kLeftMargin] + shiftX;
     contentTop = margin[kTopMargin] + shiftY;
 }

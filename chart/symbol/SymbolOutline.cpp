@@ -134,6 +134,13 @@ SymbolOutline::Polygon SymbolOutline::arrow(int word) {
     Polygon p;
     p.x = {0, head, shaft, shaft, -shaft, -shaft, -head};
     p.y = {-0.5, base, base, 0.5, 0.5, base, base};
+    // Shrunk into the box's inner circle, so that it stays in the box at any angle.
+    double reach = 0;
+    for (size_t i = 0; i < p.x.size(); ++i) reach = std::max(reach, std::hypot(p.x[i], p.y[i]));
+    for (size_t i = 0; i < p.x.size(); ++i) {
+        p.x[i] *= 0.5 / reach;
+        p.y[i] *= 0.5 / reach;
+    }
     rotate(p, args[0]);
     return p;
 }

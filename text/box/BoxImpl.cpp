@@ -30,13 +30,13 @@ BoxImpl::BoxImpl(BoxContainer *container)
       styleSet(0) {}
 
 void BoxImpl::setPos(int px, int py) {
-    x = px;
-    y = py;
+    x = limit(px);
+    y = limit(py);
 }
 
 void BoxImpl::setSize(int w, int h) {
-    width = w;
-    height = h;
+    width = limit(w);
+    height = limit(h);
     widthGiven = heightGiven = true;
 }
 

@@ -28,6 +28,13 @@ public:
         kTruncateStyle = 1 << 10,
     };
 
+    // Positions, sizes and margins are kept within this many pixels, so that
+    // sums of them stay within an int.
+    static constexpr int kMaxCoordinate = 1 << 28;
+    static int limit(int v) {
+        return v < -kMaxCoordinate ? -kMaxCoordinate : v > kMaxCoordinate ? kMaxCoordinate : v;
+    }
+
     explicit BoxImpl(BoxContainer *container);
     BoxImpl(const BoxImpl &) = delete;
     BoxImpl &operator=(const BoxImpl &) = delete;

@@ -18,13 +18,6 @@ const int kUnlimited = 0x7FFFFFFF;
 enum { kLeftMargin, kRightMargin, kTopMargin, kBottomMargin };
 const int kMarginOfSide[4] = {kTopMargin, kRightMargin, kBottomMargin, kLeftMargin};
 
-bool isRightAlignment(int a) {
-    return a == kBottomRight || a == kRight || a == kTopRight;
-}
-bool isCenterAlignment(int a) {
-    return a == kBottomCenter || a == kCenter || a == kTopCenter;
-}
-
 // The width of a box's border that margins make room for.
 int edgeWidth(int raisedEffect, int width, int height) {
     if (raisedEffect == 0) return 0;
@@ -101,30 +94,30 @@ void TextBoxImpl::setMargin(int m) {
 }
 
 void TextBoxImpl::setMargin2(int left, int right, int top, int bottom) {
-    margins[kLeftMargin] = left;
-    margins[kRightMargin] = right;
-    margins[kTopMargin] = top;
-    margins[kBottomMargin] = bottom;
+    margins[kLeftMargin] = limit(left);
+    margins[kRightMargin] = limit(right);
+    margins[kTopMargin] = limit(top);
+    margins[kBottomMargin] = limit(bottom);
     markSet(kMarginStyle);
 }
 
 void TextBoxImpl::setWidth(int w) {
-    width = w;
+    width = limit(w);
     widthGiven = true;
 }
 
 void TextBoxImpl::setHeight(int h) {
-    height = h;
+    height = limit(h);
     heightGiven = true;
 }
 
 void TextBoxImpl::setMaxWidth(int w) {
-    maxWidth = w;
+    maxWidth = limit(w);
     markSet(kWrapStyle);
 }
 
 void TextBoxImpl::setTruncate(int w, int lines) {
-    truncateWidth = w;
+    truncateWidth = limit(w);
     truncateLines = lines;
     markSet(kTruncateStyle);
 }
@@ -200,24 +193,24 @@ void TextBoxImpl::layout(DrawArea *d) {
     textObject = TTFText::create(d, getText().c_str(), getFont().c_str(), getFontIndex(),
                                  size->fontHeight, size->fontWidth, getFontAngle(), isVertical(),
                                  d->getTextAAMode(), wrap == kUnlimited ? 0 : wrap, lines, 0);
-    if (textObject) placeByAlignment(textObject->getWidth(), textObject->getHeight());
+    if (textObject) placeByAlignment(textObject->getWidth(), textObject->getHeight(), usedMargin);
 }
 
-void TextBoxImpl::placeByAlignment(int textWidth, int textHeight) {
+void TextBoxImpl::placeByAlignment(int contentWidth, int contentHeight, const int margin[4]) {
     int a = getAlignment();
-    if (!widthGiven) width = textWidth + usedMargin[kLeftMargin] + usedMargin[kRightMargin];
+    if (!widthGiven) width = contentWidth + margin[kLeftMargin] + margin[kRightMargin];
     if (!widthGiven || anchored) {
         if (isRightAlignment(a))
             x = x + 1 - width;
         else if (isCenterAlignment(a))
-            x = x - usedMargin[kLeftMargin] - textWidth / 2;
+            x = x - margin[kLeftMargin] - contentWidth / 2;
     }
-    if (!heightGiven) height = textHeight + usedMargin[kTopMargin] + usedMargin[kBottomMargin];
+    if (!heightGiven) height = contentHeight + margin[kTopMargin] + margin[kBottomMargin];
     if (!heightGiven || anchored) {
         if (a >= kBottomLeft && a <= kBottomRight)
             y = y + 1 - height;
         else if (a >= kLeft && a <= kRight)
-            y = y - usedMargin[kTopMargin] - textHeight / 2;
+            y = y - margin[kTopMargin] - contentHeight / 2;
     }
 }
 

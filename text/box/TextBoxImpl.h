@@ -68,9 +68,16 @@ public:
     int getTruncateWidth() const { return textOf(kTruncateStyle)->truncateWidth; }
     int getTruncateLines() const { return textOf(kTruncateStyle)->truncateLines; }
 
+    static bool isRightAlignment(int a) { return a == 3 || a == 6 || a == 9; }
+    static bool isCenterAlignment(int a) { return a == 2 || a == 5 || a == 8; }
+
 protected:
     // Where the text itself is drawn for a box painted at (px, py).
     void textOrigin(int px, int py, int *tx, int *ty) const;
+    // Gives a side without a given size the content's size and the margins
+    // (left, right, top, bottom), and moves the box so that the content's
+    // alignment point lies at the position.
+    void placeByAlignment(int contentWidth, int contentHeight, const int margin[4]);
 
 private:
     const TextBoxImpl *textOf(int style) const {
@@ -78,7 +85,6 @@ private:
         return static_cast<const TextBoxImpl *>(styleOf(style));
     }
     int wrapWidth() const;
-    void placeByAlignment(int textWidth, int textHeight);
 
     std::string text;
     std::string font;
