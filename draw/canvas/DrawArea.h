@@ -141,6 +141,8 @@ public:
                             int maxLines, int color, int alignment) = 0;
     // Sizes the canvas to the mark-up and draws it; the list is then closed.
     virtual void renderVSML(const char *markup) = 0;
+    // The anti-alias mode word that texts made for this canvas are given.
+    virtual int getTextAAMode() const = 0;
 
     virtual void merge(DrawArea *d, int x, int y, int align, int transparency) = 0;
     virtual void mergeScaled(DrawArea *d, int x, int y, int width, int height,

@@ -284,8 +284,7 @@ public:
 
     MetaDraw *getMetaDraw() override { return metaDraw; }
 
-    // The word handed to text creation for this canvas's text anti-alias setting.
-    int getTextAAMode() const;
+    int getTextAAMode() const override;
 
     int getReplayPos() const { return replayPos; }
 

@@ -8,19 +8,10 @@
 #include "draw/canvas/DrawArea.h"
 #include "draw/pixel/ColorWords.h"
 #include "foundation/ArrayViews.h"
+#include "text/layout/TextSymbolService.h"
 #include "text/layout/TextTransform.h"
 #include "text/markup/BlockAttributes.h"
 #include "text/markup/VSMLTag.h"
-
-namespace {
-
-TTFImage::SymbolPainter symbolPainter = nullptr;
-
-}  // namespace
-
-void TTFImage::setSymbolPainter(SymbolPainter painter) {
-    symbolPainter = painter;
-}
 
 TTFImage::TTFImage(DrawArea *d, int w, int h, int v)
     : canvas(d),
@@ -115,9 +106,8 @@ void TTFImage::drawAt(const TextTransform &t, double left, double top, int) {
         return;
     }
     if (!isSymbol) return;
-    SymbolPainter painter = symbolPainter ? symbolPainter : paintPlainShape;
-    if (!painter(canvas, symbol, cx, cy, width, height, color, edgeColor) &&
-        painter != paintPlainShape)
+    TextSymbolService *service = TextSymbolService::get();
+    if (!service || !service->drawSymbol(canvas, symbol, cx, cy, width, height, color, edgeColor))
         paintPlainShape(canvas, symbol, cx, cy, width, height, color, edgeColor);
 }
 

@@ -9,13 +9,6 @@ class DrawArea;
 // An "img" item of a text: a picture file, a resource, or a symbol.
 class TTFImage : public TTFText {
 public:
-    // Draws a symbol centred at (cx, cy) on the canvas; false when it can't.
-    // Symbols proper belong to the data-symbol painter, which installs itself
-    // here; the default draws the plain shapes.
-    typedef bool (*SymbolPainter)(DrawArea *d, const ShapeSymbol &symbol, double cx, double cy,
-                                  int width, int height, int color, int edgeColor);
-    static void setSymbolPainter(SymbolPainter painter);
-
     static TTFImage *create(DrawArea *d, const BlockAttributes &attrs);
 
     int getWidth() override { return width; }

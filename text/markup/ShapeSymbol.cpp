@@ -8,32 +8,30 @@
 
 namespace {
 
-enum ArgumentKind { kNone, kFraction, kCount, kCoordinates, kArrow };
-
 struct ShapeName {
     const wchar_t *name;
     int code;
-    ArgumentKind kind;
+    ShapeSymbol::ArgumentKind kind;
 };
 
 const ShapeName kShapes[] = {
-    {L"square", 1, kNone},
-    {L"diamond", 2, kNone},
-    {L"triangle", 3, kNone},
-    {L"righttriangle", 4, kNone},
-    {L"lefttriangle", 5, kNone},
-    {L"invertedtriangle", 6, kNone},
-    {L"circle", 7, kNone},
-    {L"cross", 8, kFraction},
-    {L"cross2", 9, kFraction},
-    {L"polygon", 11, kCount},
-    {L"polygon2", 11, kCount},
-    {L"star", 13, kCount},
-    {L"polyshape", 14, kCoordinates},
-    {L"glasssphere", 15, kNone},
-    {L"glasssphere2", 16, kNone},
-    {L"solidsphere", 17, kNone},
-    {L"arrow", 18, kArrow},
+    {L"square", 1, ShapeSymbol::kNoArguments},
+    {L"diamond", 2, ShapeSymbol::kNoArguments},
+    {L"triangle", 3, ShapeSymbol::kNoArguments},
+    {L"righttriangle", 4, ShapeSymbol::kNoArguments},
+    {L"lefttriangle", 5, ShapeSymbol::kNoArguments},
+    {L"invertedtriangle", 6, ShapeSymbol::kNoArguments},
+    {L"circle", 7, ShapeSymbol::kNoArguments},
+    {L"cross", 8, ShapeSymbol::kFraction},
+    {L"cross2", 9, ShapeSymbol::kFraction},
+    {L"polygon", 11, ShapeSymbol::kCount},
+    {L"polygon2", 11, ShapeSymbol::kCount},
+    {L"star", 13, ShapeSymbol::kCount},
+    {L"polyshape", 14, ShapeSymbol::kCoordinates},
+    {L"glasssphere", 15, ShapeSymbol::kNoArguments},
+    {L"glasssphere2", 16, ShapeSymbol::kNoArguments},
+    {L"solidsphere", 17, ShapeSymbol::kNoArguments},
+    {L"arrow", 18, ShapeSymbol::kArrow},
 };
 
 double argOr(const std::vector<double> &args, size_t i, double fallback) {
@@ -46,9 +44,16 @@ int clampInt(double v, int lo, int hi) {
     return (int)v;
 }
 
-int fractionBits(double v, double whole, int bits) {
-    int top = (1 << bits) - 1;
-    return clampInt(std::floor(v / whole * top + 0.5), 0, top);
+// Bit fields of an arrow word: the angle, then the three ratios.  The angle has
+// the 6 bits left at the top of the word, steps of 360 / 64 degrees.
+const int kAngleShift = 26, kAngleBits = 6;
+const int kRatioShifts[3] = {20, 14, 8};
+const int kRatioBits = 6;
+const double kRatioUnits = 50;
+const double kArrowDefaults[4] = {0, 1, 0.5, 0.5};
+
+int field(int word, int shift, int bits) {
+    return (int)(((unsigned)word >> shift) & ((1u << bits) - 1));
 }
 
 }  // namespace
@@ -68,7 +73,7 @@ std::vector<double> ShapeSymbol::readArguments(const wchar_t *p) {
     return args;
 }
 
-int ShapeSymbol::packArguments(int kind, const std::vector<double> &args) {
+int ShapeSymbol::packArguments(ArgumentKind kind, const std::vector<double> &args) {
     switch (kind) {
         case kFraction: {
             double w = argOr(args, 0, 0.5);
@@ -81,14 +86,34 @@ int ShapeSymbol::packArguments(int kind, const std::vector<double> &args) {
         case kArrow: {
             double angle = std::fmod(argOr(args, 0, 0), 360);
             if (angle < 0) angle += 360;
-            return (fractionBits(angle, 360, 10) << 26) |
-                   (fractionBits(argOr(args, 1, 1), 50, 6) << 20) |
-                   (fractionBits(argOr(args, 2, 0.5), 50, 6) << 14) |
-                   (fractionBits(argOr(args, 3, 0.5), 50, 6) << 8);
+            int steps = 1 << kAngleBits;
+            unsigned word =
+                (unsigned)(clampInt(std::floor(angle / 360 * steps + 0.5), 0, steps) % steps)
+                << kAngleShift;
+            for (int i = 0; i < 3; ++i) {
+                double ratio = argOr(args, i + 1, kArrowDefaults[i + 1]);
+                word |= (unsigned)clampInt(std::floor(ratio * kRatioUnits + 0.5), 0,
+                                           (1 << kRatioBits) - 1)
+                        << kRatioShifts[i];
+            }
+            return (int)word;
         }
         default:
             return 0;
     }
+}
+
+double ShapeSymbol::unpackFraction(int word) {
+    return field(word, 12, 12) / 4095.0;
+}
+
+int ShapeSymbol::unpackCount(int word) {
+    return field(word, 12, 12);
+}
+
+void ShapeSymbol::unpackArrow(int word, double out[4]) {
+    out[0] = field(word, kAngleShift, kAngleBits) * 360.0 / (1 << kAngleBits);
+    for (int i = 0; i < 3; ++i) out[i + 1] = field(word, kRatioShifts[i], kRatioBits) / kRatioUnits;
 }
 
 bool ShapeSymbol::parse(const std::wstring &value, ShapeSymbol *out) {

@@ -21,7 +21,18 @@ public:
     // "@@n": n, otherwise -1.
     int tableIndex;
 
+    // How a symbol word carries its arguments above the code: a fraction 0 to 1
+    // in 12 bits at bit 12 (crosses), a count 0 to 100 at bit 12 (polygons,
+    // stars), and for arrows the angle's share of 360 in the 6 bits from bit 26
+    // and the head width, head length and shaft width in fiftieths, 6 bits each
+    // at bits 20, 14 and 8.  Missing arguments take their defaults.
+    enum ArgumentKind { kNoArguments, kFraction, kCount, kCoordinates, kArrow };
+    static int packArguments(ArgumentKind kind, const std::vector<double> &args);
+    static double unpackFraction(int word);
+    static int unpackCount(int word);
+    // angle in degrees, then the three ratios.
+    static void unpackArrow(int word, double out[4]);
+
 private:
     static std::vector<double> readArguments(const wchar_t *p);
-    static int packArguments(int kind, const std::vector<double> &args);
 };
