@@ -230,7 +230,7 @@ void AxisImpl::setLabelledScale(int type, double lower, double upper, StringArra
     }
     setMapping(type, mappedLower, mappedUpper);
     ticks.clear();
-    int n = labels.len;
+    int n = std::max(labels.len, 0);
     double step = (upper - lower) / std::max(n - 1, 1);
     tickStep = n > 1 ? std::fabs(step) : 0;
     std::string shown;
@@ -337,11 +337,11 @@ void AxisImpl::copyAxis(Axis *axis) {
 // Labels.
 
 void AxisImpl::setLabels(StringArray labels) {
-    setLinearScale2(0, std::max(labels.len - 1, 0), labels);
+    setLinearScale2(0, std::max(labels.len, 1) - 1, labels);
 }
 
 void AxisImpl::setLabels2(DoubleArray values, const char *formatString) {
-    setMapping(kLinearScale, 0, std::max(values.len - 1, 0));
+    setMapping(kLinearScale, 0, std::max(values.len, 1) - 1);
     if (values.len <= 1) mapping.setLinear(-kLinearGap, kLinearGap);
     ticks.clear();
     tickStep = values.len > 1 ? 1 : 0;
@@ -398,7 +398,7 @@ double AxisImpl::getCoor(double value) const {
         double span = std::fabs(mapping.getUpper() - mapping.getLower());
         f = (f * span + 0.5) / (span + 1);
     }
-    return usableLength() * f + marginTop;
+    return (double)usableLength() * f + marginTop;
 }
 
 DoubleArray AxisImpl::getTicks() {
@@ -448,12 +448,13 @@ void AxisImpl::layoutScale() {
 }
 
 int AxisImpl::majorTickCount() const {
-    return std::max(usableLength() / getTickSpacing(), 1);
+    // Beyond a million ticks the walks stop anyway.
+    return (int)std::min(std::max(usableLength() / getTickSpacing(), 1LL), 1000000LL);
 }
 
 int AxisImpl::minorTicksPerMajor(int majors) const {
     if (minorTickSpacing <= 0) return 1;
-    return std::max(usableLength() / majors / minorTickSpacing, 1);
+    return (int)std::min(std::max(usableLength() / majors / minorTickSpacing, 1LL), 1000000LL);
 }
 
 void AxisImpl::layoutAutomatic() {
@@ -484,7 +485,7 @@ void AxisImpl::enterTicks(const ScaleOutcome &outcome) {
         double lower = std::min(outcome.lower, outcome.upper);
         double upper = std::max(outcome.lower, outcome.upper);
         double range = upper - lower;
-        double nearerEnd = usableLength() * std::min(upper / range, -lower / range);
+        double nearerEnd = (double)usableLength() * std::min(upper / range, -lower / range);
         if (nearerEnd >= getTickSpacing()) {
             ticks.enterScaleTicks({majors[0], 0, majors[1]}, outcome.minorTicks);
             return;

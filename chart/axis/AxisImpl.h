@@ -134,7 +134,8 @@ private:
     void makeOwnTicks(const AxisImpl &target);
     void enterTicks(const ScaleOutcome &outcome);
     void runLabelPass();
-    int usableLength() const { return length - marginTop - marginBottom; }
+    // Pixels the scale spreads over; wide enough that no length and margins overflow.
+    long long usableLength() const { return (long long)length - marginTop - marginBottom; }
     int majorTickCount() const;
     int minorTicksPerMajor(int majors) const;
 

@@ -21,9 +21,10 @@ int fractionDecimals(double v) {
 
 // Decimals that show a difference of d; 0 for differences of 10 and more.
 int spacingDecimals(double d) {
-    int k = (int)std::ceil(-std::log10(d));
-    if (k < 0) return 0;
-    if (k > 300) return kMostDecimals;
+    double decimals = std::ceil(-std::log10(d));
+    if (!(decimals >= 0)) return 0;
+    if (decimals > 300) return kMostDecimals;
+    int k = (int)decimals;
     double n = std::floor(d * std::pow(10.0, k + 2) + 0.5);
     if (n > 999) return k - 1;
     if (std::fmod(n, 100) == 0) return k;

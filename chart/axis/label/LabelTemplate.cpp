@@ -9,6 +9,13 @@
 
 std::string LabelTemplate::fill(const char *tmpl, const AxisLabel &label, const char *valueFormat,
                                 double tickInc, int itemIndex) const {
+    if (tmpl && strcmp(tmpl, "{value}") == 0) return formatter->format(valueFormat, label.value);
+    return fillByParser(tmpl, label, valueFormat, tickInc, itemIndex);
+}
+
+std::string LabelTemplate::fillByParser(const char *tmpl, const AxisLabel &label,
+                                        const char *valueFormat, double tickInc,
+                                        int itemIndex) const {
     if (!tmpl || !strchr(tmpl, '{')) return tmpl ? tmpl : "";
     VSParser parser(tmpl, 0);
     while (const char *name = parser.getNextAttr()) {

@@ -15,9 +15,13 @@ public:
     LabelTemplate(Formatter *formatter, TemplateFieldSource *fields)
         : formatter(formatter), fields(fields) {}
 
-    // valueFormat stands in for the format of a "{value}" that has none.
+    // valueFormat stands in for the format of a "{value}" that has none.  The
+    // plain "{value}" of default labels is formatted directly.
     std::string fill(const char *tmpl, const AxisLabel &label, const char *valueFormat,
                      double tickInc, int itemIndex) const;
+    // Every template through the parser: the general path fill() shortens.
+    std::string fillByParser(const char *tmpl, const AxisLabel &label, const char *valueFormat,
+                             double tickInc, int itemIndex) const;
 
 private:
     Formatter *formatter;

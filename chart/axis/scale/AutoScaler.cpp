@@ -40,6 +40,17 @@ bool AutoScaler::scale(double lower, double upper, int n, int m, ScaleOutcome &o
            allFinite(out.minorTicks);
 }
 
+void AutoScaler::spreadEqualLimits(double &lower, double &upper) {
+    if (lower != upper) return;
+    double half = std::fabs(lower) / 2;
+    upper += half;
+    lower -= half;
+    if (lower == upper) {
+        lower = 0;
+        upper = 100;
+    }
+}
+
 void AutoScaler::takeTicks(const TickGenerator &generator, ScaleOutcome &out) {
     out.majorTicks = generator.getMajorTicks();
     out.minorTicks = generator.getMinorTicks();

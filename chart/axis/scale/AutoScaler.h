@@ -37,6 +37,8 @@ protected:
     virtual void scaleAscending(double lower, double upper, int n, int m,
                                 ScaleOutcome &out) const = 0;
 
+    // Equal limits move apart by half their size; two zeros become 0 to 100.
+    static void spreadEqualLimits(double &lower, double &upper);
     // Takes the generator's ticks; with fewer than two majors and no minors the
     // limits themselves become the majors.
     static void takeTicks(const TickGenerator &generator, ScaleOutcome &out);

@@ -9,15 +9,7 @@
 
 void LinearScaler::scaleAscending(double lower, double upper, int n, int m,
                                   ScaleOutcome &out) const {
-    if (lower == upper) {
-        double half = std::fabs(lower) / 2;
-        upper += half;
-        lower -= half;
-        if (lower == upper) {
-            lower = 0;
-            upper = 100;
-        }
-    }
+    spreadEqualLimits(lower, upper);
     extend(lower, upper);
     chooseTicks(lower, upper, n, m, out);
 }
@@ -45,8 +37,9 @@ void LinearScaler::extend(double &lower, double &upper) const {
 }
 
 double LinearScaler::stepThroughZero(double lower, double upper, int count) {
-    int k = (int)std::floor(upper / (upper - lower) * count + 0.5);
-    if (k >= count) k = count - 1;
+    // The ticks above zero; NaN (from limits grown past the doubles) counts as none.
+    double above = std::floor(upper / (upper - lower) * count + 0.5);
+    int k = above >= count ? count - 1 : above > 0 ? (int)above : 0;
     if (k <= 0) k = 1;
     return std::max(-lower / (count - k), upper / k);
 }

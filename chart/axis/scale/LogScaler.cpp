@@ -55,15 +55,7 @@ bool LogScaler::prepare(double &lower, double &upper) const {
 }
 
 void LogScaler::scaleAscending(double lower, double upper, int n, int m, ScaleOutcome &out) const {
-    if (lower == upper) {
-        double half = std::fabs(lower) / 2;
-        upper += half;
-        lower -= half;
-        if (lower == upper) {
-            lower = 0;
-            upper = 100;
-        }
-    }
+    spreadEqualLimits(lower, upper);
     if (lower <= 0) lower = upper / 10000;
     double top = record.getTopExtension();
     double bottom = record.getBottomExtension();
@@ -76,6 +68,11 @@ void LogScaler::scaleAscending(double lower, double upper, int n, int m, ScaleOu
     double lu = std::log10(upper);
     double ll = std::log10(lower);
     double span = lu - ll;
+    if (!std::isfinite(span)) {
+        // Extended beyond the doubles: no scale.
+        out.lower = out.upper = NAN;
+        return;
+    }
     if (span < 0.8) {
         LinearScaler(record).chooseTicks(lower, upper, n, m, out);
         if (out.lower > 0) {

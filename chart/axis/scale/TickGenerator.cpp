@@ -7,10 +7,12 @@
 
 namespace {
 
-// A walk may pass this many steps below the lower limit before it gives up.
+// A walk takes at most this many steps, made ticks or not, before it gives up.
 const int kMaxSteps = 4 * TickGenerator::kMaxTicks;
 
-struct TickRange {
+}  // namespace
+
+struct TickGenerator::TickRange {
     double lower;
     double upper;
     double eps;
@@ -25,8 +27,6 @@ struct TickRange {
     }
     double snapToZero(double t) const { return std::fabs(t) < tiny ? 0 : t; }
 };
-
-}  // namespace
 
 bool TickGenerator::isLogSentinel(double step) {
     return step == kLogTick || step == kLinearTick;
@@ -49,13 +49,32 @@ void TickGenerator::generate(double lower, double upper, double start, double ma
     walk(lower, upper, start, major, minor);
 }
 
+// Minors between the major t and the next, none too close to the next.
+void TickGenerator::walkMinors(const TickRange &range, double t, double next, double minor,
+                               int &made, int &steps) {
+    double previous = t;
+    double m = nextTick(t, minor);
+    for (; m < next && 2 * (next - m) > m - previous && m <= range.upper + range.eps &&
+           made < kMaxTicks + 1 && steps < kMaxSteps;
+         ++steps) {
+        if (range.contains(m)) {
+            minorTicks.push_back(range.snapToZero(m));
+            ++made;
+        }
+        previous = m;
+        double after = nextTick(m, minor);
+        if (!(after > m)) break;
+        m = after;
+    }
+}
+
 void TickGenerator::walk(double lower, double upper, double start, double major, double minor) {
     double eps = (upper - lower) * 1e-7;
     TickRange range = {lower, upper, eps, eps * 0.001};
     bool withMinors = isLogSentinel(minor) || (minor > 0 && minor < major);
-    int made = 0;
+    int made = 0, steps = 0;
     double t = start;
-    for (int steps = 0; t <= upper + eps && made <= kMaxTicks && steps < kMaxSteps; ++steps) {
+    for (; t <= upper + eps && made <= kMaxTicks && steps < kMaxSteps; ++steps) {
         t = range.snapToLimit(t);
         if (range.contains(t)) {
             majorTicks.push_back(range.snapToZero(t));
@@ -63,20 +82,7 @@ void TickGenerator::walk(double lower, double upper, double start, double major,
         }
         double next = nextTick(t, major);
         if (!(next > t)) break;
-        if (withMinors) {
-            double previous = t;
-            for (double m = nextTick(t, minor);
-                 m < next && 2 * (next - m) > m - previous && made < kMaxTicks + 1;) {
-                if (range.contains(m)) {
-                    minorTicks.push_back(range.snapToZero(m));
-                    ++made;
-                }
-                previous = m;
-                double after = nextTick(m, minor);
-                if (!(after > m)) break;
-                m = after;
-            }
-        }
+        if (withMinors) walkMinors(range, t, next, minor, made, steps);
         t = next;
     }
 }

@@ -28,7 +28,10 @@ protected:
     static bool isLogSentinel(double step);
 
 private:
+    struct TickRange;
     void walk(double lower, double upper, double start, double major, double minor);
+    void walkMinors(const TickRange &range, double t, double next, double minor, int &made,
+                    int &steps);
 
     std::vector<double> majorTicks;
     std::vector<double> minorTicks;

@@ -220,10 +220,7 @@ TEST(AutoScale, RandomLinearScalesCoverTheDataWithOneTwoFiveSteps) {
         Values majors = majorValues(*a);
         ASSERT_GE(majors.size(), 2u);
         double step = a->getTickStep();
-        double mantissa = step / std::pow(10.0, std::floor(std::log10(step) + 1e-9));
-        EXPECT_TRUE(std::fabs(mantissa - 1) < 1e-6 || std::fabs(mantissa - 2) < 1e-6 ||
-                    std::fabs(mantissa - 5) < 1e-6)
-            << step;
+        EXPECT_TRUE(isOneTwoFive(step)) << step;
         for (size_t k = 1; k < majors.size(); ++k)
             EXPECT_NEAR(majors[k] - majors[k - 1], step, step * 1e-6);
         if (majors.front() < 0 && majors.back() > 0) {
@@ -280,4 +277,19 @@ TEST(AutoScale, RandomDateScalesTickOnCalendarBoundaries) {
             }
         }
     }
+}
+
+TEST(AutoScale, RangesAtTheEdgeOfTheDoublesMakeNoScale) {
+    TestAxis a(kLeft, 200);
+    a->setLogScale3("");
+    a->layoutScale(-1.2e308, -7e182);
+    EXPECT_TRUE(a->getTickMap().empty());
+    TestAxis b(kLeft, 200);
+    b->layoutScale(-1.6e308, 1.6e308);
+    EXPECT_TRUE(b->getTickMap().empty());
+    // Far beyond the calendar, dates step as plain numbers.
+    TestAxis c(kLeft, 200);
+    c->setDateScale3("");
+    c->layoutScale(0, 1e300);
+    EXPECT_EQ(majorValues(*c).size(), 7u);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <memory>
 #include <string>
 #include <vector>
@@ -55,6 +56,14 @@ inline std::vector<std::string> labelTexts(const AxisImpl &a) {
         if (!(t.second.flags & AxisLabel::kNoLabel) && !t.second.text.empty())
             v.push_back(t.second.text);
     return v;
+}
+
+// 1, 2 or 5 times a power of ten.
+inline bool isOneTwoFive(double step) {
+    double mantissa = step / std::pow(10.0, std::floor(std::log10(step) + 1e-9));
+    for (double base : {1.0, 2.0, 5.0})
+        if (std::fabs(mantissa - base) < 1e-6) return true;
+    return false;
 }
 
 using Values = std::vector<double>;

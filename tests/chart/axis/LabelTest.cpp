@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <random>
 #include <string>
 
 #include "AxisTestSupport.h"
 #include "chart/axis/label/LabelFilter.h"
 #include "chart/axis/label/LabelPrecision.h"
+#include "chart/axis/label/LabelTemplate.h"
 #include "foundation/Constants.h"
 #include "text/ExtraFields.h"
 
@@ -58,6 +61,8 @@ TEST(AxisLabels, Decimals) {
     EXPECT_EQ(decimalsFor({1.0001}), 4);
     EXPECT_EQ(decimalsFor({0, 0.002, 0.004}), 3);
     EXPECT_EQ(decimalsFor({1, 2, 5, 10, 20, 50, 100}), -1);
+    EXPECT_EQ(decimalsFor({-1e308, 1e308}), 0);
+    EXPECT_EQ(decimalsFor({3, 3}), -1);
 
     // A tick at 1e-12 on a range of 0 to 100 is written 0.
     TestAxis b(kBottom, 100);
@@ -205,4 +210,27 @@ TEST(AxisLabels, MultiFormatFiltersAndConditions) {
     e->setMultiFormat2(Chart::encodeFilter(kAllPassFilter, 1, 0), "{value|mmm}", 1, false);
     e->layoutScale();
     EXPECT_EQ(labelTexts(*e), (Texts{"Feb"}));
+}
+
+// The direct path of plain "{value}" labels gives what the template parser gives.
+TEST(AxisLabels, PlainValuesMatchTheTemplatePath) {
+    std::mt19937 rng(3);
+    std::uniform_real_distribution<double> unit(0, 1);
+    const char *formats[] = {"@", "", "2,.", "g", "mm/dd/yyyy", "mmm dd\nhh:nn", "yyyy", "p3"};
+    Formatter chart;
+    chart.setNumberFormat('\'', ',', '-');
+    Formatter formatter;
+    formatter.setDefault(&chart);
+    LabelTemplate filler(&formatter, nullptr);
+    for (int i = 0; i < 3000; ++i) {
+        double v = i % 3 == 0 ? at(1900, 1, 1) + unit(rng) * 1e10
+                              : (unit(rng) - 0.5) * std::pow(10.0, unit(rng) * 20 - 10);
+        if (i % 97 == 0) v = kNoValue;
+        formatter.setContextPrecision(i % 7 - 1);
+        AxisLabel label(v);
+        const char *format = formats[i % 8];
+        EXPECT_EQ(filler.fill("{value}", label, format, 1, i),
+                  filler.fillByParser("{value}", label, format, 1, i))
+            << v << " " << format;
+    }
 }

@@ -95,3 +95,14 @@ TEST(TickGenerator, TimeStepsByTheCalendar) {
     EXPECT_EQ(g.nextTick(at(2024, 1, 1), 2 * 2592000 + 10 * 86400), at(2024, 3, 11));
     EXPECT_EQ(g.nextTick(at(2024, 3, 1), -2592000), at(2024, 2, 1));
 }
+
+TEST(TickGenerator, MinorWalksStopPastTheLimit) {
+    // Minors a hundred orders of magnitude finer than the majors, on a range
+    // far smaller than either.
+    LinearTickGenerator g;
+    g.generate(1.4e-321, 6.2e-317, 1.4e-321, 4e-87, 1e-309);
+    EXPECT_EQ(g.getMajorTicks().size(), 1u);
+    // A start far below the range with fine minors ends too.
+    g.generate(1e6, 1e6 + 1, 0, 1, 1e-3);
+    EXPECT_TRUE(g.getMajorTicks().empty());
+}
