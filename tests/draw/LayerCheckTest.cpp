@@ -77,8 +77,8 @@ TEST_F(LayerCheck, SubFoldersOfTheDrawingEngine) {
 }
 
 TEST_F(LayerCheck, FoldersStillToComeFollowTheSubsystems) {
-    plant("chart/axis/Axis.cpp", "text/layout/TTFText.h");
-    plant("chart/axis/Axis.cpp", "chart/Layer.h");
+    plant("chart/later/Scale.cpp", "text/layout/TTFText.h");
+    plant("chart/later/Scale.cpp", "chart/Layer.h");
     plant("layers/BarLayer.cpp", "chart/Layer.h");
     plant("chart/Scale.cpp", "finance/ArrayMath.h");
     Result fine = runChecker(root);

@@ -206,8 +206,8 @@ Formatter::Formatter()
     buffer[0] = 0;
 }
 
-void Formatter::setDefault(Formatter *formatter) {
-    for (Formatter *f = formatter; f; f = f->defaultFormatter)
+void Formatter::setDefault(const Formatter *formatter) {
+    for (const Formatter *f = formatter; f; f = f->defaultFormatter)
         if (f == this) return;
     defaultFormatter = formatter;
 }

@@ -21,9 +21,9 @@ public:
     // The text lives in this formatter until the next call.  Allocates nothing.
     const char *format(const char *formatString, double value);
 
-    // Not owned.  A default that would close a cycle is ignored.
-    void setDefault(Formatter *formatter);
-    Formatter *getDefault() const { return defaultFormatter; }
+    // Not owned, only read.  A default that would close a cycle is ignored.
+    void setDefault(const Formatter *formatter);
+    const Formatter *getDefault() const { return defaultFormatter; }
     // Returns the previous value.
     int setContextPrecision(int n);
     int getContextPrecision() const { return contextPrecision; }
@@ -74,7 +74,7 @@ private:
     NameList<2> amPm;
     NameList<7> weekDayNames;
     NameList<12> monthNames;
-    Formatter *defaultFormatter;
+    const Formatter *defaultFormatter;
 
     // Room for the 309 digits of the largest double with separators, a long
     // fraction and an exponent.
