@@ -37,16 +37,18 @@ void construct(REALobject self) {
     });
 }
 
+template <class HostR, class Body>
+HostR call(REALobject self, REALproc glue, Body &&body) {
+    return callWrapper<DrawAreaTarget, HostR>(self, glue, body);
+}
+
 // The canvas keeps no copy of its drawing, so there is nothing to keep.
 void removeDynamicLayer(REALobject self, RBBoolean) {
-    DA *d = reach<DrawAreaTarget>(self, reinterpret_cast<REALproc>(&removeDynamicLayer));
-    if (d) d->removeDynamicLayer();
+    call<void>(self, procOf(removeDynamicLayer), [](DA *d) { d->removeDynamicLayer(); });
 }
 
 REALarray getClipRect(REALobject self) {
-    DA *d = reach<DrawAreaTarget>(self, reinterpret_cast<REALproc>(&getClipRect));
-    if (!d) return nullptr;
-    return guard<REALarray>([&] {
+    return call<REALarray>(self, procOf(getClipRect), [](DA *d) {
         int box[4] = {0, 0, 0, 0};
         d->getClipRect(&box[0], &box[1], &box[2], &box[3]);
         return newHostIntArray({4, box});
@@ -56,28 +58,25 @@ REALarray getClipRect(REALobject self) {
 // Four equal corners and four equal edges.
 void roundedRect(REALobject self, double x1, double y1, double x2, double y2, RBInteger r,
                  RBInteger edgeColor, RBInteger fillColor) {
-    DA *d = reach<DrawAreaTarget>(self, reinterpret_cast<REALproc>(&roundedRect));
-    if (!d) return;
-    int radius = PxAuto::in(r), edge = Color::in(edgeColor);
-    const int radii[4] = {radius, radius, radius, radius};
-    const int edges[4] = {edge, edge, edge, edge};
-    d->roundedRect(PxD::in(x1), PxD::in(y1), PxD::in(x2), PxD::in(y2), radii, edges,
-                   Color::in(fillColor));
+    call<void>(self, procOf(roundedRect), [&](DA *d) {
+        int radius = PxAuto::in(r), edge = Color::in(edgeColor);
+        const int radii[4] = {radius, radius, radius, radius};
+        const int edges[4] = {edge, edge, edge, edge};
+        d->roundedRect(PxD::in(x1), PxD::in(y1), PxD::in(x2), PxD::in(y2), radii, edges,
+                       Color::in(fillColor));
+    });
 }
 
 // Texts belong to the caller and hold the canvas, which they draw on.
 REALobject text(REALobject self, REALstring str, REALstring font, double fontSize) {
-    DA *d = reach<DrawAreaTarget>(self, reinterpret_cast<REALproc>(&text));
-    if (!d) return nullptr;
-    return guard<REALobject>(
-        [&] { return NewTTFTextXPG(d->text(RBText(str), RBText(font), fontSize), self, nullptr); });
+    return call<REALobject>(self, procOf(text), [&](DA *d) {
+        return NewTTFTextXPG(d->text(RBText(str), RBText(font), fontSize), self, nullptr);
+    });
 }
 
 REALobject text2(REALobject self, REALstring str, REALstring font, RBInteger fontIndex,
                  double fontHeight, double fontWidth, double angle, RBBoolean vertical) {
-    DA *d = reach<DrawAreaTarget>(self, reinterpret_cast<REALproc>(&text2));
-    if (!d) return nullptr;
-    return guard<REALobject>([&] {
+    return call<REALobject>(self, procOf(text2), [&](DA *d) {
         abc::TTFText *t = d->text2(RBText(str), RBText(font), Int::in(fontIndex), fontHeight,
                                    fontWidth, angle, Bool::in(vertical));
         return NewTTFTextXPG(t, self, nullptr);
@@ -98,25 +97,18 @@ void keepResource(REALobject self, REALstring id, REALobject value) {
     unlockRef(key);
 }
 
+// A nil block removes the entry; an empty one stores no bytes.
 void setResource(REALobject self, REALstring id, REALobject data) {
-    DA *d = reach<DrawAreaTarget>(self, reinterpret_cast<REALproc>(&setResource));
-    if (!d) return;
-    guard<void>([&] {
-        RBText name(id);
+    call<void>(self, procOf(setResource), [&](DA *d) {
         abc::MemBlock bytes = memoryBlockBytes(data);
-        // A nil block removes the entry.
-        if (data)
-            d->setResource(name, bytes);
-        else
-            d->setResource(name, {0, nullptr});
+        if (data && !bytes.data) bytes = {0, ""};
+        d->setResource(RBText(id), bytes);
         keepResource(self, id, data);
     });
 }
 
 void setResource2(REALobject self, REALstring id, REALobject canvas) {
-    DA *d = reach<DrawAreaTarget>(self, reinterpret_cast<REALproc>(&setResource2));
-    if (!d) return;
-    guard<void>([&] {
+    call<void>(self, procOf(setResource2), [&](DA *d) {
         d->setResource2(RBText(id), Canvas::in(canvas));
         keepResource(self, id, canvas);
     });

@@ -1,10 +1,7 @@
 // The entry points: REALPluginMain for the host, libEntry when the file is run.
-#include <pthread.h>
 #include <unistd.h>
 
-#include "host/classes/ClassList.h"
-#include "host/classes/Registration.h"
-#include "host/sdk/HostFunctions.h"
+#include "host/classes/PluginEntry.h"
 
 #define VISTREL_EXPORT extern "C" __attribute__((visibility("default")))
 
@@ -14,36 +11,12 @@ extern "C" const char kVistrelInterpreter[] __attribute__((section(".interp"), u
 
 namespace {
 
-double gHostVersion = 0;
-int gControlVersion = 9;
-pthread_t gMainThread;
-
-// Kept in the file so that the version can be read from it.
-__attribute__((used)) const char kPluginVersionText[] = "$$ Plugin version: 26.2 (2026) $$";
 const char kVersionLine[] = "XPG Plugin, version 26.2, built May  4 2026\n";
-
-void MyREALRegisterClass(REALclassDefinition &def) {
-    prepareDefinition(def, gHostVersion, gControlVersion);
-    REALRegisterClass(&def);
-}
-
-void PluginEntry() {
-    gMainThread = pthread_self();
-    (void)kPluginVersionText;
-    buildDefinitions(gHostVersion);
-    for (int i = 0; i < kClassCount; ++i) MyREALRegisterClass(classDefinition(ClassId(i)));
-}
 
 }  // namespace
 
 VISTREL_EXPORT void *REALPluginMain(void *(*resolver)(const char *entryName)) {
-    setHostResolver(resolver);
-    if (resolver) gHostVersion = REALGetRBVersion();
-    gControlVersion = controlVersionFor(gHostVersion);
-    if (!resolver) return &gControlVersion;
-    RegisterPluginVersion(gControlVersion);
-    PluginEntry();
-    return &gControlVersion;
+    return pluginMain(resolver);
 }
 
 // Reached only when the file is started as a program: the stack is as the

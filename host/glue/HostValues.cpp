@@ -34,6 +34,12 @@ RBDoubleArray::RBDoubleArray(REALarray a, bool pixels) {
         for (double &v : values) v = scalePixels(v);
 }
 
+std::vector<double> readDoublesByItem(REALarray a) {
+    std::vector<double> values(hostArrayCount(a));
+    for (size_t i = 0; i < values.size(); ++i) values[i] = REALGetArrayValueDouble(a, i);
+    return values;
+}
+
 RBIntArray::RBIntArray(REALarray a, bool pixels) {
     RBInteger n = hostArrayCount(a);
     values.resize(n);

@@ -36,6 +36,10 @@ private:
     std::vector<double> values;
 };
 
+// The general path beside RBDoubleArray's: one host call per item, each asking
+// for the element function again.  Kept to check the fast path against.
+std::vector<double> readDoublesByItem(REALarray a);
+
 // A copy of a host Integer array; pixel measures are scaled.
 class RBIntArray {
 public:

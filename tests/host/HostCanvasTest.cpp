@@ -156,6 +156,12 @@ TEST_F(HostTest, ResourcesKeepTheHostValues) {
     EXPECT_TRUE(call(d, "load", {S("@/logo")}).i);
     EXPECT_EQ(5, call(d, "getWidth").i);
     EXPECT_NE(0, ok(host->getProperty(d, "Handle")).i);
+
+    // nil takes the entry away in both places.
+    ok(host->callDeclared(d, "setResource(id as string, data as MemoryBlock)",
+                          {S("logo"), Value()}));
+    EXPECT_FALSE(call(d, "load", {S("@/logo")}).i);
+    EXPECT_EQ("nil", host->dictionaryOf(resources)["logo"]);
 }
 
 // A text holds its canvas: dropping the canvas leaves the text working, and the

@@ -309,6 +309,16 @@ CallResult SimHost::callShared(const std::string &className, const std::string &
     return callBest(nullptr, methodsNamed(cls, name, true), args, className + "." + name);
 }
 
+CallResult SimHost::callDeclared(const Value &self, const std::string &declaration,
+                                 std::vector<Value> args) {
+    SimObject *o = self.asObject();
+    for (const SimClass *c = o ? o->cls : nullptr; c; c = c->super)
+        for (const SimMethod &m : c->methods)
+            if (m.text == declaration) return invoke(o, m, args);
+    noteMisuse("no declaration " + declaration);
+    return CallResult();
+}
+
 CallResult SimHost::callWithZeros(const Value &self, const SimMethod &method) {
     std::vector<Value> args;
     for (const Param &p : method.decl.params)

@@ -38,8 +38,16 @@ SimHost::SimHost(const std::string &pluginPath, HostOptions options) : options_(
         loadError_ = dlerror();
         return;
     }
-    using PluginMain = void *(*)(void *(*)(const char *));
-    auto main = reinterpret_cast<PluginMain>(dlsym(library_, "REALPluginMain"));
+    start(reinterpret_cast<PluginMain>(dlsym(library_, "REALPluginMain")));
+}
+
+SimHost::SimHost(PluginMain main, HostOptions options) : options_(options) {
+    gCurrent = this;
+    addBuiltinClasses();
+    start(main);
+}
+
+void SimHost::start(PluginMain main) {
     if (!main) {
         loadError_ = "no REALPluginMain";
         return;

@@ -37,7 +37,11 @@ struct HostOptions {
 
 class SimHost {
 public:
+    using PluginMain = void *(*)(void *(*resolver)(const char *));
+
     explicit SimHost(const std::string &pluginPath, HostOptions options = HostOptions());
+    // A plug-in linked into the test itself, for looking at its insides.
+    explicit SimHost(PluginMain main, HostOptions options = HostOptions());
     ~SimHost();
     SimHost(const SimHost &) = delete;
     SimHost &operator=(const SimHost &) = delete;
@@ -59,6 +63,10 @@ public:
     CallResult call(const Value &self, const std::string &method, std::vector<Value> args = {});
     CallResult callShared(const std::string &className, const std::string &method,
                           std::vector<Value> args = {});
+    // The overload with exactly this declaration, as a call with typed nil
+    // variables picks it.
+    CallResult callDeclared(const Value &self, const std::string &declaration,
+                            std::vector<Value> args);
     // One declared method, with host zeros for the parameters without default.
     CallResult callWithZeros(const Value &self, const SimMethod &method);
     CallResult getProperty(const Value &self, const std::string &name);
@@ -107,6 +115,7 @@ public:
 
 private:
     struct Candidate;
+    void start(PluginMain main);
     void addBuiltinClasses();
     SimClass *addClass(const std::string &name, const std::string &superName, Builtin builtin);
     void linkClasses();
