@@ -83,34 +83,20 @@ REALobject text2(REALobject self, REALstring str, REALstring font, RBInteger fon
     });
 }
 
-// The engine copies what it is given; the Dictionary keeps the host value
-// beside it under the same id, for as long as the canvas lives.
-void keepResource(REALobject self, REALstring id, REALobject value) {
-    DrawAreaBlock *b = DrawAreaTarget::block(self);
-    if (!b->resources) b->resources = REALnewInstance("Dictionary");
-    if (!b->resources) return;
-    using SetValue = void (*)(REALobject, REALobject, REALobject);
-    auto setValue = reinterpret_cast<SetValue>(
-        REALLoadObjectMethod(b->resources, "Value(key as Variant, Assigns value as Variant)"));
-    REALobject key = REALNewVariantString(id);
-    if (setValue && key) setValue(b->resources, key, value);
-    unlockRef(key);
-}
-
 // A nil block removes the entry; an empty one stores no bytes.
 void setResource(REALobject self, REALstring id, REALobject data) {
     call<void>(self, procOf(setResource), [&](DA *d) {
         abc::MemBlock bytes = memoryBlockBytes(data);
         if (data && !bytes.data) bytes = {0, ""};
         d->setResource(RBText(id), bytes);
-        keepResource(self, id, data);
+        keepHostValue(DrawAreaTarget::block(self)->resources, id, data);
     });
 }
 
 void setResource2(REALobject self, REALstring id, REALobject canvas) {
     call<void>(self, procOf(setResource2), [&](DA *d) {
         d->setResource2(RBText(id), Canvas::in(canvas));
-        keepResource(self, id, canvas);
+        keepHostValue(DrawAreaTarget::block(self)->resources, id, canvas);
     });
 }
 

@@ -2,9 +2,22 @@
 
 #include <climits>
 #include <cstring>
+#include <new>
 
 #include "host/glue/ScaleFactor.h"
 #include "host/sdk/HostFunctions.h"
+
+namespace {
+
+// Room for a copy of n items: more than the address space holds is a failed
+// allocation like any other.
+template <class T>
+void sizeFor(std::vector<T> &v, RBInteger n) {
+    if ((uint64_t)n > v.max_size()) throw std::bad_alloc();
+    v.resize(n);
+}
+
+}  // namespace
 
 RBText::RBText(REALstring s) {
     REALstringData data;
@@ -26,7 +39,7 @@ int viewLength(size_t count) {
 // that has none leaves the items at 0.
 RBDoubleArray::RBDoubleArray(REALarray a, bool pixels) {
     RBInteger n = hostArrayCount(a);
-    values.resize(n);
+    sizeFor(values, n);
     DoubleElementGetter get = doubleElementGetter(a);
     if (!get) return;
     for (RBInteger i = 0; i < n; ++i) values[i] = get(a, i);
@@ -35,14 +48,15 @@ RBDoubleArray::RBDoubleArray(REALarray a, bool pixels) {
 }
 
 std::vector<double> readDoublesByItem(REALarray a) {
-    std::vector<double> values(hostArrayCount(a));
+    std::vector<double> values;
+    sizeFor(values, hostArrayCount(a));
     for (size_t i = 0; i < values.size(); ++i) values[i] = REALGetArrayValueDouble(a, i);
     return values;
 }
 
 RBIntArray::RBIntArray(REALarray a, bool pixels) {
     RBInteger n = hostArrayCount(a);
-    values.resize(n);
+    sizeFor(values, n);
     IntegerElementGetter get = integerElementGetter(a);
     if (!get) return;
     for (RBInteger i = 0; i < n; ++i) {

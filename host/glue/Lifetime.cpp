@@ -31,6 +31,17 @@ void releaseRefs(REALobject &owner, REALobject &parent) {
     unlockRef(o);
 }
 
+void keepHostValue(REALobject &dictionary, REALstring id, REALobject value) {
+    if (!dictionary) dictionary = REALnewInstance("Dictionary");
+    if (!dictionary) return;
+    using SetValue = void (*)(REALobject, REALobject, REALobject);
+    auto setValue = reinterpret_cast<SetValue>(
+        REALLoadObjectMethod(dictionary, "Value(key as Variant, Assigns value as Variant)"));
+    REALobject key = REALNewVariantString(id);
+    if (setValue && key) setValue(dictionary, key, value);
+    unlockRef(key);
+}
+
 void InitBlock(REALobject self, ClassId root) {
     if (self) memset(blockOf<char>(self, root), 0, classDefinition(root).dataSize);
 }

@@ -13,6 +13,11 @@ void replaceRef(REALobject &slot, REALobject value);
 // Unlocks owner and parent of a block and clears them.
 void releaseRefs(REALobject &owner, REALobject &parent);
 
+// The engine copies what setResource is given; the host value is kept beside
+// it, under the same id, in a Dictionary made on first use, so that it lives as
+// long as the object that was given it.
+void keepHostValue(REALobject &dictionary, REALstring id, REALobject value);
+
 // Zeroes the block of a new object: the host may not have.
 void InitBlock(REALobject self, ClassId root);
 // Initializer of the classes that have no Constructor for the application:

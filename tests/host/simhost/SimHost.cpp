@@ -190,8 +190,9 @@ void SimHost::lock(RefHeader *r) {
 void SimHost::unlock(RefHeader *r) {
     if (!r) return;
     if (!live_.count(r->serial)) return noteMisuse("unlock of a dead reference");
-    if (--r->refCount == 0) release(r);
-    if (r->refCount < 0) noteMisuse("reference count below zero");
+    int left = --r->refCount;
+    if (left < 0) noteMisuse("reference count below zero");
+    if (left == 0) release(r);
 }
 
 SimObject *SimHost::newObject(SimClass *cls) {
