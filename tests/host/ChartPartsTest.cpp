@@ -106,3 +106,18 @@ TEST_F(ChartPartsTest, ChildChartsComeBackAsTheSameObject) {
     multi = Value();
     EXPECT_EQ(2, host.refCount(second));
 }
+
+// Without a resolver the entry only works out the interface version, from the
+// host version it knows.
+TEST(PluginEntry, NullResolverOnlySetsTheVersion) {
+    simhost::HostOptions old;
+    old.hostVersion = 2012.5;
+    {
+        SimHost host(&pluginMain, old);
+        EXPECT_EQ(10, host.announcedControlVersion());
+    }
+    int *version = static_cast<int *>(pluginMain(nullptr));
+    ASSERT_NE(nullptr, version);
+    EXPECT_EQ(10, *version);
+    EXPECT_EQ(2012.5, hostVersion());
+}
