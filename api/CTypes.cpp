@@ -1,0 +1,7 @@
+#include "api/CTypes.h"
+
+#include <cstdlib>
+
+void CVistrel_free(void *data) {
+    free(data);
+}

@@ -1,0 +1,84 @@
+#include <benchmark/benchmark.h>
+
+#include <vector>
+
+#include "draw/DrawArea.h"
+#include "host/classes/PluginEntry.h"
+#include "host/glue/HostValues.h"
+#include "tests/host/simhost/SimHost.h"
+
+// What a host call costs beyond the engine: the glue of the loaded plug-in
+// against the engine called directly, and the copy of a host array with the
+// element function fetched once against item by item.
+
+namespace {
+
+const int kLines = 1000;
+const int kItems = 1000000;
+
+using LineGlue = void (*)(REALobject, double, double, double, double, RBInteger, RBInteger);
+using PlainGlue = void (*)(REALobject);
+
+REALproc glueOf(const simhost::SimClass *cls, const std::string &text) {
+    for (const simhost::SimMethod &m : cls->methods)
+        if (m.text.compare(0, text.size(), text) == 0) return m.function;
+    return nullptr;
+}
+
+// Each pass draws its lines in a dynamic layer and rolls them back.
+void BM_LinesThroughThePlugin(benchmark::State &state) {
+    simhost::SimHost host(VISTREL_PLUGIN_PATH);
+    simhost::Value canvas = host.create("VSDrawAreaXPG").value;
+    host.call(canvas, "setSize", {simhost::I(400), simhost::I(300)});
+    const simhost::SimClass *cls = host.findClass("VSDrawAreaXPG");
+    auto line = reinterpret_cast<LineGlue>(glueOf(cls,
+                                                  "line(x1 as double, y1 as double, x2 as "
+                                                  "double, y2 as double, colorValue as integer"));
+    auto begin = reinterpret_cast<PlainGlue>(glueOf(cls, "initDynamicLayer"));
+    auto self = reinterpret_cast<REALobject>(canvas.ref.get());
+    using RollBack = void (*)(REALobject, RBBoolean);
+    auto end = reinterpret_cast<RollBack>(glueOf(cls, "removeDynamicLayer"));
+    for (auto _ : state) {
+        begin(self);
+        for (int i = 0; i < kLines; ++i) line(self, i % 400, 10, 399 - i % 400, 290, 0x336699, 1);
+        end(self, 0);
+    }
+    state.SetItemsProcessed(state.iterations() * kLines);
+}
+BENCHMARK(BM_LinesThroughThePlugin);
+
+void BM_LinesOnTheEngine(benchmark::State &state) {
+    DrawArea *d = DrawArea::create();
+    d->setSize(400, 300, 0xffffff);
+    for (auto _ : state) {
+        d->initDynamicLayer();
+        for (int i = 0; i < kLines; ++i) d->line(i % 400, 10, 399 - i % 400, 290, 0x336699, 1);
+        d->removeDynamicLayer();
+    }
+    d->destroy();
+    state.SetItemsProcessed(state.iterations() * kLines);
+}
+BENCHMARK(BM_LinesOnTheEngine);
+
+template <class Copy>
+void copyArray(benchmark::State &state, Copy copy) {
+    simhost::SimHost host(&pluginMain);
+    std::vector<double> items(kItems);
+    for (int i = 0; i < kItems; ++i) items[i] = i * 0.5;
+    simhost::Value array = host.doubles(items);
+    auto a = reinterpret_cast<REALarray>(array.ref.get());
+    for (auto _ : state) benchmark::DoNotOptimize(copy(a));
+    state.SetItemsProcessed(state.iterations() * kItems);
+}
+
+void BM_HostArrayCopy(benchmark::State &state) {
+    copyArray(state, [](REALarray a) { return RBDoubleArray(a).items().size(); });
+}
+BENCHMARK(BM_HostArrayCopy);
+
+void BM_HostArrayCopyByItem(benchmark::State &state) {
+    copyArray(state, [](REALarray a) { return readDoublesByItem(a).size(); });
+}
+BENCHMARK(BM_HostArrayCopyByItem);
+
+}  // namespace

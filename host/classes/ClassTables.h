@@ -1,0 +1,18 @@
+#pragma once
+
+#include "host/glue/ClassRegistry.h"
+
+// The declaration tables of the classes that have them so far.
+extern const ClassTables kBaseChartTables;
+extern const ClassTables kDrawAreaTables;
+extern const ClassTables kTTFTextTables;
+extern const ClassTables kArrayTables;
+
+// The constants registered on VSBaseChartXPG: name and value as the host
+// language writes it.
+struct ConstantValue {
+    const char *name;
+    const char *literal;
+};
+extern const ConstantValue kChartConstants[];
+extern const int kChartConstantCount;

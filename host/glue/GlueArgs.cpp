@@ -1,0 +1,19 @@
+#include "host/glue/GlueArgs.h"
+
+#include "host/abc/ArrayMath.h"
+#include "host/glue/Blocks.h"
+#include "host/glue/ClassRegistry.h"
+
+namespace glue {
+
+abc::DrawArea *Canvas::in(Host v) {
+    return v ? blockOf<DrawAreaBlock>(v, ClassId::DrawArea)->handle : nullptr;
+}
+
+abc::DoubleArray ArrayValues::in(Host v) {
+    abc::ArrayMath *a =
+        v ? blockOf<HandleBlock<abc::ArrayMath>>(v, ClassId::Array)->handle : nullptr;
+    return a ? a->result() : abc::DoubleArray{0, nullptr};
+}
+
+}  // namespace glue

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "host/abc/Views.h"
+#include "host/glue/HostValues.h"
+#include "host/glue/ScaleFactor.h"
+#include "host/sdk/PluginTypes.h"
+
+namespace abc {
+class DrawArea;
+}
+
+// How one host argument becomes one engine argument: Host is the C type the
+// host passes, in() the value the wrapper gets.  The "Px" forms are pixel
+// measures and take the ScaleFactor.
+namespace glue {
+
+struct Int {
+    using Host = RBInteger;
+    static int in(Host v) { return (int)v; }
+};
+struct Px {
+    using Host = RBInteger;
+    static int in(Host v) { return scalePixels(v); }
+};
+// A pixel measure where a negative number means "automatic": left as it is.
+struct PxAuto {
+    using Host = RBInteger;
+    static int in(Host v) { return v < 0 ? (int)v : scalePixels(v); }
+};
+struct Dbl {
+    using Host = double;
+    static double in(Host v) { return v; }
+};
+struct PxD {
+    using Host = double;
+    static double in(Host v) { return scalePixels(v); }
+};
+struct Bool {
+    using Host = RBBoolean;
+    static bool in(Host v) { return v != 0; }
+};
+// An engine colour word.
+struct Color {
+    using Host = RBInteger;
+    static int in(Host v) { return (int)v; }
+};
+// The host's Color: widened without a sign, then taken as the integer form.
+struct ColorC {
+    using Host = RBColor;
+    static int in(Host v) { return Color::in(static_cast<RBInteger>(static_cast<uint64_t>(v))); }
+};
+struct Str {
+    using Host = REALstring;
+    static RBText in(Host v) { return RBText(v); }
+};
+struct Doubles {
+    using Host = REALarray;
+    static RBDoubleArray in(Host v) { return RBDoubleArray(v); }
+};
+struct PxDoubles {
+    using Host = REALarray;
+    static RBDoubleArray in(Host v) { return RBDoubleArray(v, true); }
+};
+struct Ints {
+    using Host = REALarray;
+    static RBIntArray in(Host v) { return RBIntArray(v); }
+};
+struct PxInts {
+    using Host = REALarray;
+    static RBIntArray in(Host v) { return RBIntArray(v, true); }
+};
+struct Strings {
+    using Host = REALarray;
+    static RBStringArray in(Host v) { return RBStringArray(v); }
+};
+// A MemoryBlock's bytes, borrowed for the call.
+struct Bytes {
+    using Host = REALobject;
+    static abc::MemBlock in(Host v) { return memoryBlockBytes(v); }
+};
+// A VSDrawAreaXPG, or null.
+struct Canvas {
+    using Host = REALobject;
+    static abc::DrawArea *in(Host v);
+};
+// The numbers of a VSArrayXPG, borrowed for the call.
+struct ArrayValues {
+    using Host = REALobject;
+    static abc::DoubleArray in(Host v);
+};
+
+}  // namespace glue

@@ -1,0 +1,147 @@
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <string>
+
+#include "api/CArrayMath.h"
+#include "api/CChart.h"
+#include "api/CDrawArea.h"
+#include "api/CTTFText.h"
+#include "draw/DrawArea.h"
+#include "foundation/Constants.h"
+
+namespace {
+
+std::string listingOf(CDrawArea *d) {
+    const char *data = nullptr;
+    int len = -1;
+    CDrawArea_outAGF2(d, &data, &len);
+    return std::string(data ? data : "", len > 0 ? len : 0);
+}
+
+}  // namespace
+
+// A null handle is ignored and reads as 0; out-parameters are still written.
+TEST(CApi, NullHandlesReadAsZero) {
+    EXPECT_EQ(0, CDrawArea_getWidth(nullptr));
+    CDrawArea_line(nullptr, 0, 0, 1, 1, 0, 1);
+    EXPECT_FALSE(CDrawArea_out(nullptr, "/tmp/x.png"));
+    const char *data = "x";
+    int len = 7;
+    CDrawArea_outPNG2(nullptr, &data, &len);
+    EXPECT_EQ(nullptr, data);
+    EXPECT_EQ(0, len);
+    int l = 5, t = 5, r = 5, b = 5;
+    CDrawArea_getClipRect(nullptr, &l, &t, &r, &b);
+    EXPECT_EQ(0, l + t + r + b);
+    EXPECT_EQ(nullptr, CDrawArea_text(nullptr, "a", "arial.ttf", 8));
+    EXPECT_EQ(0, CTTFText_getWidth(nullptr));
+    EXPECT_EQ(nullptr, CArrayMath_add2(nullptr, 1));
+    EXPECT_EQ(-1, CArrayMath_maxIndex(nullptr));
+    EXPECT_EQ(0, CArrayMath_aggregate(nullptr, nullptr, 0, 0, 0));
+    CDrawArea_destroy(nullptr);
+    CArrayMath_destroy(nullptr);
+    CTTFText_destroy(nullptr);
+}
+
+// The flat functions are the canvas: the same calls, the same listing.
+TEST(CApi, CanvasCallsReachTheEngine) {
+    CDrawArea *d = CDrawArea_create();
+    DrawArea *engine = DrawArea::create();
+    CDrawArea_setSize(d, 0, -3, 0xffffff);
+    engine->setSize(0, -3, 0xffffff);
+    int l, t, r, b;
+    CDrawArea_getClipRect(d, &l, &t, &r, &b);
+    EXPECT_EQ(0, l + t + r + b);
+    CDrawArea_setSize(d, 60, 40, 0xeeeeee);
+    engine->setSize(60, 40, 0xeeeeee);
+    const double x[] = {1, 30, 10}, y[] = {1, 5, 30};
+    CDrawArea_polygon(d, x, 3, y, 3, 0x000000, 0xff0000);
+    engine->polygon(DoubleArray(x, 3), DoubleArray(y, 3), 0x000000, 0xff0000);
+    const int radius[] = {3, 3, 3, 3}, edges[] = {1, 2, 3, 4};
+    CDrawArea_roundedRect(d, 5, 5, 50, 30, radius, edges, 0x00ff00);
+    engine->roundedRect(5, 5, 50, 30, radius, edges, 0x00ff00);
+    CDrawArea_roundedRect(d, 5, 5, 50, 30, nullptr, edges, 0x00ff00);
+    CTTFText *text = CDrawArea_text(d, "flat", "arial.ttf", 10);
+    ASSERT_NE(nullptr, text);
+    EXPECT_GT(CTTFText_getWidth(text), 5);
+    EXPECT_GE(CTTFText_getHeight(text), CTTFText_getAscent(text));
+    CTTFText_draw(text, 2, 2, 0x000000, kTopLeft);
+    CTTFText_destroy(text);
+    std::string flat = listingOf(d);
+    MemBlock direct = engine->outAGF2();
+    EXPECT_EQ(std::string(direct.data, direct.len), flat.substr(0, direct.len));
+    EXPECT_NE(std::string::npos, flat.find("Text"));
+    engine->destroy();
+
+    EXPECT_STREQ("image/png", CDrawArea_getMediaType(kPNG));
+    EXPECT_STREQ("x", CDrawArea_getResourceId("@/x"));
+    int width = -1, height = -1;
+    CDrawArea_getImageSize(2, "BM", &width, &height);
+    EXPECT_EQ(0, width + height);
+    CDrawArea_setResource(d, "id", "abc", 3);
+    int n = 0;
+    char *copy = CDrawArea_getResourceData(d, "id", &n);
+    ASSERT_EQ(3, n);
+    EXPECT_EQ("abc", std::string(copy, n));
+    CVistrel_free(copy);
+    EXPECT_EQ(nullptr, CDrawArea_getResourceData(d, "none", &n));
+    EXPECT_EQ(0, n);
+    CDrawArea_destroy(d);
+}
+
+TEST(CApi, ArrayCallsChainOnTheSameHandle) {
+    const double values[] = {1, 2, 3, 4};
+    CArrayMath *a = CArrayMath_create(values, 4);
+    EXPECT_EQ(a, CArrayMath_mul2(CArrayMath_add2(a, 1), 2));
+    const double *data = nullptr;
+    int len = 0;
+    CArrayMath_result(a, &data, &len);
+    ASSERT_EQ(4, len);
+    EXPECT_EQ(10, data[3]);
+    EXPECT_EQ(7, CArrayMath_avg(a));
+    EXPECT_EQ(4, CArrayMath_max2(values, 4));
+    double src[] = {5, 6, 7, 8};
+    EXPECT_EQ(4, CArrayMath_aggregate(a, src, 4, 0, 0));
+    CArrayMath_destroy(a);
+}
+
+TEST(CApi, ChartStaticsTakeFlatViews) {
+    const double a[] = {1, 2, 4};
+    EXPECT_EQ(1.5, CChart_bSearch(a, 3, 3));
+    EXPECT_EQ(-1, CChart_bSearch(nullptr, 0, 3));
+    EXPECT_EQ(0, CChart_chartTime(1, 1, 1, 0, 0, 0));
+    EXPECT_EQ(1, CChart_getChartWeekDay(0));
+    EXPECT_EQ(kNoValue, CChart_kNoValue);
+    const int *pairs = nullptr;
+    int len = 0;
+    CChart_goldGradient(&pairs, &len);
+    ASSERT_EQ(8, len);
+    EXPECT_EQ(0xffe743, pairs[1]);
+    CChart_defaultPalette(&pairs, &len);
+    EXPECT_GT(len, 8);
+    int table[4];
+    CChart_getBarLighting(table, CChart_barLighting(0.75, 1.5), 1);
+    EXPECT_EQ(256, table[2]);
+    int lighting[64];
+    int n = CChart_getShearedCylinderLighting(CChart_cylinderEffect(5, 0.5, 0.5, 0.75, 8), 1, 0,
+                                              lighting, 64);
+    EXPECT_GT(n, 4);
+    EXPECT_EQ(0, CChart_getShearedCylinderLighting(CChart_phongLighting(0.5, 0.5, 0.75, 8), 0, 0,
+                                                   lighting, 64));
+}
+
+// The headers are C: they compile as C99 on their own.
+TEST(CApi, HeadersAreC99) {
+    std::string command =
+        std::string("cc -std=c99 -pedantic -Wall -Wextra -Werror -fsyntax-only -I'") +
+        VISTREL_SOURCE_DIR + "' -x c - 2>&1";
+    FILE *p = popen(command.c_str(), "w");
+    ASSERT_NE(nullptr, p);
+    fputs(
+        "#include \"api/CDrawArea.h\"\n#include \"api/CTTFText.h\"\n"
+        "#include \"api/CArrayMath.h\"\n#include \"api/CChart.h\"\n"
+        "int main(void) { return CChart_xySize(1, 2) == 0; }\n",
+        p);
+    EXPECT_EQ(0, pclose(p));
+}
