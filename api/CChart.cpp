@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "api/Handles.h"
-#include "draw/ColorEffects.h"
-#include "draw/Palettes.h"
+#include "draw/canvas/ColorEffects.h"
+#include "draw/canvas/Palettes.h"
 #include "foundation/ChartStatics.h"
 
 using vistrel_api::putView;

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "api/Handles.h"
-#include "draw/DrawArea.h"
+#include "draw/canvas/DrawArea.h"
 #include "text/CanvasText.h"
 
 using vistrel_api::D;

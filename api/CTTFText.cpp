@@ -1,7 +1,7 @@
 #include "api/CTTFText.h"
 
 #include "api/Handles.h"
-#include "text/TTFText.h"
+#include "text/layout/TTFText.h"
 
 using vistrel_api::H;
 using vistrel_api::T;

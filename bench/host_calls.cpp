@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "draw/DrawArea.h"
+#include "draw/canvas/DrawArea.h"
 #include "host/classes/PluginEntry.h"
 #include "host/glue/HostValues.h"
 #include "tests/host/simhost/SimHost.h"

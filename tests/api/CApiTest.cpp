@@ -7,7 +7,7 @@
 #include "api/CChart.h"
 #include "api/CDrawArea.h"
 #include "api/CTTFText.h"
-#include "draw/DrawArea.h"
+#include "draw/canvas/DrawArea.h"
 #include "foundation/Constants.h"
 
 namespace {

@@ -1,11 +1,11 @@
 #include <string>
 
-#include "draw/ColorWords.h"
-#include "draw/DrawArea.h"
+#include "draw/pixel/ColorWords.h"
+#include "draw/canvas/DrawArea.h"
 #include "foundation/Constants.h"
 #include "tests/host/HostTestSupport.h"
 #include "text/CanvasText.h"
-#include "text/TTFText.h"
+#include "text/layout/TTFText.h"
 
 using simhost::B;
 using simhost::C;

@@ -1,7 +1,7 @@
 #include <string>
 #include <vector>
 
-#include "draw/ColorWords.h"
+#include "draw/pixel/ColorWords.h"
 #include "finance/ArrayMath.h"
 #include "foundation/Constants.h"
 #include "tests/host/HostTestSupport.h"
