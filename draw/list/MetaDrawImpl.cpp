@@ -1,6 +1,5 @@
 #include "draw/list/MetaDrawImpl.h"
 
-#include <cassert>
 #include <cctype>
 #include <cstdlib>
 #include <cstring>
