@@ -86,9 +86,7 @@ REALobject text2(REALobject self, REALstring str, REALstring font, RBInteger fon
 // A nil block removes the entry; an empty one stores no bytes.
 void setResource(REALobject self, REALstring id, REALobject data) {
     call<void>(self, procOf(setResource), [&](DA *d) {
-        abc::MemBlock bytes = memoryBlockBytes(data);
-        if (data && !bytes.data) bytes = {0, ""};
-        d->setResource(RBText(id), bytes);
+        d->setResource(RBText(id), resourceBytes(data));
         keepHostValue(DrawAreaTarget::block(self)->resources, id, data);
     });
 }

@@ -77,9 +77,18 @@ struct WrapperMethod<R (W::*)(P...)> {
     using Result = R;
 };
 
+// Parts that an object hands out (a chart's titles, legend, canvas) become host
+// objects that hold the object of the call as their owner.  PartResults.h
+// specialises this for each such wrapper.
+template <class R>
+struct PartResult {
+    static constexpr bool kIsPart = false;
+};
+
 // A wrapper method that hands back its own wrapper (calls that chain) returns
 // the host object itself, with a lock for the caller.
-template <class Wrapper, class R, bool ReturnsSelf = std::is_same_v<R, Wrapper *>>
+template <class Wrapper, class R,
+          bool HostObject = std::is_same_v<R, Wrapper *> || PartResult<R>::kIsPart>
 struct HostResultOf {
     using type = typename GlueResult<R>::Host;
 };
@@ -104,6 +113,8 @@ struct Forward {
                 if (!(w->*Method)(Arg::in(args)...)) return nullptr;
                 REALLockObject(self);
                 return self;
+            } else if constexpr (PartResult<R>::kIsPart) {
+                return PartResult<R>::out((w->*Method)(Arg::in(args)...), self);
             } else {
                 return GlueResult<R>::out((w->*Method)(Arg::in(args)...));
             }
