@@ -8,6 +8,7 @@
 #include "host/abc/Chart.h"
 #include "host/abc/chart/VSMLTable.h"
 #include "host/classes/ClassTables.h"
+#include "host/classes/ColorMakers.h"
 #include "host/glue/ChartTargets.h"
 #include "host/glue/GlueArgs.h"
 #include "host/glue/GlueSignature.h"
@@ -303,45 +304,11 @@ const MethodEntry kMethods[] = {
     method("adjustBrightness(c as color, brightness as double) as integer",
            fwd<&BC::adjustBrightness, ColorC, Dbl>),
     method("autoColor() as integer", fwd<&BC::autoColor>),
-    method("dashLineColor(colorValue as integer, patternCode as integer = &h0505) as integer",
-           fwd<&BC::dashLineColor, Color, Int>),
-    method("dashLineColor(colorValue as color, patternCode as integer = &h0505) as integer",
-           fwd<&BC::dashLineColor, ColorC, Int>),
-    method("patternColor(colors() as integer, height as integer, startX as integer = 0, "
-           "startY as integer = 0) as integer", fwd<&BC::patternColor, Ints, Int, Px, Px>),
+};
+
+const MethodEntry kTailMethods[] = {
     method("patternColor(colors() as color, height as integer, startX as integer = 0, "
            "startY as integer = 0) as integer", fwd<&BC::patternColor, Colors, Int, Px, Px>),
-    method("patternColor(file as string, startX as integer = 0, startY as integer = 0) "
-           "as integer", fwd<&BC::patternColor2, Str, Px, Px>),
-    method("gradientColor(startX as integer, startY as integer, endX as integer, "
-           "endY as integer, startColor as integer, endColor as integer) as integer",
-           fwd<&BC::gradientColor, Px, Px, Px, Px, Color, Color>),
-    method("gradientColor(startX as integer, startY as integer, endX as integer, "
-           "endY as integer, startColor as color, endColor as color) as integer",
-           fwd<&BC::gradientColor, Px, Px, Px, Px, ColorC, ColorC>),
-    method("gradientColor(colors() as integer, angle as double = 90, scale as double = 1.0, "
-           "startX as integer = 0, startY as integer = 0) as integer",
-           fwd<&BC::gradientColor2, Ints, Dbl, Dbl, Px, Px>),
-    method("linearGradientColor(startX as integer, startY as integer, endX as integer, "
-           "endY as integer, startColor as integer, endColor as integer, "
-           "periodic as boolean = false) as integer",
-           fwd<&BC::linearGradientColor, Px, Px, Px, Px, Color, Color, Bool>),
-    method("linearGradientColor(startX as integer, startY as integer, endX as integer, "
-           "endY as integer, startColor as color, endColor as color, "
-           "periodic as boolean = false) as integer",
-           fwd<&BC::linearGradientColor, Px, Px, Px, Px, ColorC, ColorC, Bool>),
-    method("linearGradientColor(startX as integer, startY as integer, endX as integer, "
-           "endY as integer, colors() as integer, periodic as boolean = false) as integer",
-           fwd<&BC::linearGradientColor2, Px, Px, Px, Px, Ints, Bool>),
-    method("radialGradientColor(cx as integer, cy as integer, rx as integer, ry as integer, "
-           "startColor as integer, endColor as integer, periodic as boolean = false) "
-           "as integer", fwd<&BC::radialGradientColor, Px, Px, Px, Px, Color, Color, Bool>),
-    method("radialGradientColor(cx as integer, cy as integer, rx as integer, ry as integer, "
-           "startColor as color, endColor as color, periodic as boolean = false) as integer",
-           fwd<&BC::radialGradientColor, Px, Px, Px, Px, ColorC, ColorC, Bool>),
-    method("radialGradientColor(cx as integer, cy as integer, rx as integer, ry as integer, "
-           "colors() as integer, periodic as boolean = false) as integer",
-           fwd<&BC::radialGradientColor2, Px, Px, Px, Px, Ints, Bool>),
     method("setDefaultFonts(normal as string, bold as string = \"\", italic as string = \"\", "
            "boldItalic as string = \"\")", fwd<&BC::setDefaultFonts, Str, Str, Str, Str>),
     method("setFontTable(index as integer, font as string)", fwd<&BC::setFontTable, Int, Str>),
@@ -374,6 +341,12 @@ const MethodEntry kMethods[] = {
 };
 // clang-format on
 
+TableSpan<MethodEntry> methods() {
+    static std::vector<MethodEntry> all;
+    return joinTables(
+        all, {tableOf(kMethods), colorMakerMethods<BaseChartTarget>(), tableOf(kTailMethods)});
+}
+
 const PropertyEntry kProperties[] = {
     readOnlyProperty("Handle", "Integer", getHandle),
     readOnlyProperty("Resources", "Dictionary", getResources),
@@ -400,7 +373,7 @@ TableSpan<ConstantEntry> constantEntries() {
 }  // namespace
 
 const ClassTables kBaseChartTables = {
-    tableOf(kMethods),
+    methods(),
     tableOf(kProperties),
     tableOf(kSharedMethods),
     tableOf(kSharedProperties),
