@@ -13,7 +13,6 @@
 #include "host/glue/GlueArgs.h"
 #include "host/glue/GlueSignature.h"
 #include "host/glue/Lifetime.h"
-#include "host/glue/PartResults.h"
 
 using namespace glue;
 

@@ -3,6 +3,7 @@
 #include <type_traits>
 
 #include "host/abc/Views.h"
+#include "host/glue/ChartFactories.h"
 #include "host/glue/ClassRegistry.h"
 #include "host/glue/Debugging.h"
 #include "host/glue/HostExceptions.h"
@@ -78,12 +79,29 @@ struct WrapperMethod<R (W::*)(P...)> {
 };
 
 // Parts that an object hands out (a chart's titles, legend, canvas) become host
-// objects that hold the object of the call as their owner.  PartResults.h
-// specialises this for each such wrapper.
+// objects that hold the object of the call as their owner, so that a part keeps
+// its chart alive.
 template <class R>
 struct PartResult {
     static constexpr bool kIsPart = false;
 };
+
+template <class W, REALobject (*Factory)(W *, REALobject, REALobject)>
+struct PartOf {
+    static constexpr bool kIsPart = true;
+    static REALobject out(W *part, REALobject owner) { return Factory(part, owner, nullptr); }
+};
+
+template <>
+struct PartResult<abc::TextBox *> : PartOf<abc::TextBox, &NewTextBoxXPG> {};
+template <>
+struct PartResult<abc::LegendBox *> : PartOf<abc::LegendBox, &NewLegendBoxXPG> {};
+template <>
+struct PartResult<abc::VSLine *> : PartOf<abc::VSLine, &NewLineXPG> {};
+template <>
+struct PartResult<abc::VSMLTable *> : PartOf<abc::VSMLTable, &NewMLTableXPG> {};
+template <>
+struct PartResult<abc::DrawArea *> : PartOf<abc::DrawArea, &NewChartCanvasXPG> {};
 
 // A wrapper method that hands back its own wrapper (calls that chain) returns
 // the host object itself, with a lock for the caller.
