@@ -17,19 +17,13 @@
 #include "api/chart/CLine.h"
 #include "api/chart/CMultiChart.h"
 #include "api/chart/CTextBox.h"
+#include "fuzz/ByteReader.h"
 
 namespace {
 
-class Bytes {
+class Bytes : public ByteReader {
 public:
-    Bytes(const uint8_t *d, size_t n) : data(d), size(n) {}
-    bool more() const { return pos < size; }
-    uint8_t byte() { return pos < size ? data[pos++] : 0; }
-    int word() {
-        int v = 0;
-        for (int i = 0; i < 4; ++i) v = v << 8 | byte();
-        return v;
-    }
+    using ByteReader::ByteReader;
     // Mostly small pixels, now and then any int.
     int pixels() { return byte() == 0xFF ? word() : (int)(byte() % 200) - 20; }
     int color() { return byte() & 1 ? word() : (int)(0xFFFF0000u + byte() % 12); }
@@ -43,11 +37,6 @@ public:
         for (int &x : v) x = color();
         return v;
     }
-
-private:
-    const uint8_t *data;
-    size_t size;
-    size_t pos = 0;
 };
 
 struct Charts {

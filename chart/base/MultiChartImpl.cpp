@@ -63,8 +63,14 @@ int MultiChartImpl::getAbsOffsetY(BaseChart *chart) {
 }
 
 double MultiChartImpl::getProperty(int code) {
-    if ((code & ~0xFF) == kViewAreaProperty && mainChart) return viewAreaProperty(code);
-    return BaseChartImpl::getProperty(code);
+    // A multi-chart that holds itself, however indirectly, answers as a plain
+    // chart when asked again from within.
+    if ((code & ~0xFF) != kViewAreaProperty || !mainChart || walking)
+        return BaseChartImpl::getProperty(code);
+    walking = true;
+    double v = viewAreaProperty(code);
+    walking = false;
+    return v;
 }
 
 double MultiChartImpl::viewAreaProperty(int code) {
@@ -100,9 +106,12 @@ void MultiChartImpl::onPaint() {
 
 const char *MultiChartImpl::onGetHTMLImageMap(const char *url, const char *queryFormat,
                                               const char *extraAttr, int offsetX, int offsetY) {
-    imageMap.clear();
+    if (walking) return "";
+    walking = true;
+    std::string map;
     for (const Placement &p : placements)
-        imageMap +=
-            p.chart->getHTMLImageMap(url, queryFormat, extraAttr, p.x + offsetX, p.y + offsetY);
+        map += p.chart->getHTMLImageMap(url, queryFormat, extraAttr, p.x + offsetX, p.y + offsetY);
+    walking = false;
+    imageMap = map;
     return imageMap.c_str();
 }
