@@ -100,8 +100,10 @@ void MultiChartImpl::onLayoutChart() {
 
 void MultiChartImpl::onPaint() {
     DrawArea *canvas = getRawDrawArea();
+    // A canvas merged into itself would hold itself for ever.
     for (const Placement &p : placements)
-        canvas->merge(p.chart->makeChart(), p.x, p.y, kTopLeft, 0);
+        if (p.chart != static_cast<BaseChart *>(this))
+            canvas->merge(p.chart->makeChart(), p.x, p.y, kTopLeft, 0);
 }
 
 const char *MultiChartImpl::onGetHTMLImageMap(const char *url, const char *queryFormat,

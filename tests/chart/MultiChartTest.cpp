@@ -95,5 +95,7 @@ TEST(MultiChart, ChartsHoldingThemselvesAreWalkedOnce) {
     EXPECT_STREQ("", a->getHTMLImageMap("u", "", "", 0, 0));
     EXPECT_EQ(a->getProperty(0x206), 99 + 5 + 10);
     EXPECT_EQ(b->getProperty(0x206), 99 + 5);
-    a->makeChart();
+    Owned<MultiChart> self(MultiChart::create(30, 20, 0xFFFFFF, kTransparent, 0));
+    self->addChart(0, 0, self.get());
+    EXPECT_EQ(self->makeChart()->getWidth(), 30);
 }
