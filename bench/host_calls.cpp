@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "chart/base/MultiChart.h"
 #include "draw/canvas/DrawArea.h"
 #include "host/classes/PluginEntry.h"
 #include "host/glue/HostValues.h"
@@ -59,6 +60,46 @@ void BM_LinesOnTheEngine(benchmark::State &state) {
     state.SetItemsProcessed(state.iterations() * kLines);
 }
 BENCHMARK(BM_LinesOnTheEngine);
+
+// A part a chart hands out costs a host object with two locks: the glue of
+// addText against the engine's addText, on a new chart each pass.
+const int kTexts = 100;
+
+void BM_ChartTextsThroughThePlugin(benchmark::State &state) {
+    simhost::SimHost host(VISTREL_PLUGIN_PATH);
+    const simhost::SimClass *cls = host.findClass("VSBaseChartXPG");
+    // Declared with defaults after the text: the glue takes them all.
+    using Full = REALobject (*)(REALobject, RBInteger, RBInteger, REALstring, REALstring, double,
+                                RBInteger, RBInteger, double, RBBoolean);
+    auto addText = reinterpret_cast<Full>(
+        glueOf(cls, "addText(x as integer, y as integer, text as string, font as string = "));
+    simhost::SimString *label = host.newString("label", kREALTextEncodingUTF8);
+    simhost::SimString *noFont = host.newString("", kREALTextEncodingUTF8);
+    auto text = reinterpret_cast<REALstring>(label), font = reinterpret_cast<REALstring>(noFont);
+    for (auto _ : state) {
+        simhost::Value chart =
+            host.create("VSMultiChartXPG", {simhost::I(300), simhost::I(200)}).value;
+        auto self = reinterpret_cast<REALobject>(chart.ref.get());
+        for (int i = 0; i < kTexts; ++i) {
+            REALobject box = addText(self, i, i, text, font, 8, -65534, 7, 0, 0);
+            host.unlock(reinterpret_cast<simhost::RefHeader *>(box));
+        }
+    }
+    host.unlock(&label->header);
+    host.unlock(&noFont->header);
+    state.SetItemsProcessed(state.iterations() * kTexts);
+}
+BENCHMARK(BM_ChartTextsThroughThePlugin);
+
+void BM_ChartTextsOnTheEngine(benchmark::State &state) {
+    for (auto _ : state) {
+        MultiChart *c = MultiChart::create(300, 200, 0xffff0000, 0xff000000, 0);
+        for (int i = 0; i < kTexts; ++i) c->addText(i, i, "label", "", 8, -65534, 7, 0, false);
+        c->destroy();
+    }
+    state.SetItemsProcessed(state.iterations() * kTexts);
+}
+BENCHMARK(BM_ChartTextsOnTheEngine);
 
 template <class Copy>
 void copyArray(benchmark::State &state, Copy copy) {

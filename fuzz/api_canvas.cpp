@@ -10,19 +10,13 @@
 
 #include "api/CDrawArea.h"
 #include "api/CTTFText.h"
+#include "fuzz/ByteReader.h"
 
 namespace {
 
-class Bytes {
+class Bytes : public ByteReader {
 public:
-    Bytes(const uint8_t *d, size_t n) : data(d), size(n) {}
-    bool more() const { return pos < size; }
-    uint8_t byte() { return pos < size ? data[pos++] : 0; }
-    int word() {
-        int v = 0;
-        for (int i = 0; i < 4; ++i) v = v << 8 | byte();
-        return v;
-    }
+    using ByteReader::ByteReader;
     // Mostly small coordinates, now and then an extreme or a NaN.
     double number() {
         uint8_t kind = byte();
@@ -49,11 +43,6 @@ public:
         for (int &x : v) x = word();
         return v;
     }
-
-private:
-    const uint8_t *data;
-    size_t size;
-    size_t pos = 0;
 };
 
 void step(CDrawArea *d, CDrawArea *other, Bytes &in) {

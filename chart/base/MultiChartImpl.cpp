@@ -63,8 +63,14 @@ int MultiChartImpl::getAbsOffsetY(BaseChart *chart) {
 }
 
 double MultiChartImpl::getProperty(int code) {
-    if ((code & ~0xFF) == kViewAreaProperty && mainChart) return viewAreaProperty(code);
-    return BaseChartImpl::getProperty(code);
+    // A multi-chart that holds itself, however indirectly, answers as a plain
+    // chart when asked again from within.
+    if ((code & ~0xFF) != kViewAreaProperty || !mainChart || walking)
+        return BaseChartImpl::getProperty(code);
+    walking = true;
+    double v = viewAreaProperty(code);
+    walking = false;
+    return v;
 }
 
 double MultiChartImpl::viewAreaProperty(int code) {
@@ -94,15 +100,20 @@ void MultiChartImpl::onLayoutChart() {
 
 void MultiChartImpl::onPaint() {
     DrawArea *canvas = getRawDrawArea();
+    // A canvas merged into itself would hold itself for ever.
     for (const Placement &p : placements)
-        canvas->merge(p.chart->makeChart(), p.x, p.y, kTopLeft, 0);
+        if (p.chart != static_cast<BaseChart *>(this))
+            canvas->merge(p.chart->makeChart(), p.x, p.y, kTopLeft, 0);
 }
 
 const char *MultiChartImpl::onGetHTMLImageMap(const char *url, const char *queryFormat,
                                               const char *extraAttr, int offsetX, int offsetY) {
-    imageMap.clear();
+    if (walking) return "";
+    walking = true;
+    std::string map;
     for (const Placement &p : placements)
-        imageMap +=
-            p.chart->getHTMLImageMap(url, queryFormat, extraAttr, p.x + offsetX, p.y + offsetY);
+        map += p.chart->getHTMLImageMap(url, queryFormat, extraAttr, p.x + offsetX, p.y + offsetY);
+    walking = false;
+    imageMap = map;
     return imageMap.c_str();
 }

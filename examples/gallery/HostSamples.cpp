@@ -1,11 +1,16 @@
-// The plug-in layer: the classes the host is given, and a drawing made through
-// the flat interface that the host classes and C programs call.
+// The plug-in layer: the classes the host is given, a drawing made through
+// the flat interface that the host classes and C programs call, and a chart
+// built through the wrappers behind the host's chart classes.
 #include <cstdio>
 
 #include "api/CChart.h"
 #include "api/CDrawArea.h"
 #include "api/CTTFText.h"
 #include "examples/gallery/Gallery.h"
+#include "host/abc/chart/LegendBox.h"
+#include "host/abc/chart/MultiChart.h"
+#include "host/abc/chart/TextBox.h"
+#include "host/abc/chart/VSLine.h"
 #include "host/classes/ClassReference.h"
 
 static bool classListing(const std::string &path) {
@@ -38,7 +43,45 @@ static bool flatCanvas(const std::string &path) {
     return ok;
 }
 
+// A panel chart: a small multi-chart with a title band, a text and a legend.
+static abc::MultiChart *panel(const char *name, int color) {
+    const int kNoEdge = (int)0xFF000000;
+    abc::MultiChart *p = abc::MultiChart::create(170, 120, 0xffffff, 0x8aa1c1, 0);
+    p->setRoundedFrame(0xf4f6fa, 8, -1, -1, -1);
+    abc::TextBox *title = p->addTitle(name, "", 10, 0xffffff, color, kNoEdge);
+    title->setMargin(4);
+    abc::TextBox *value =
+        p->addText(85, 62, "<*size=20*>42<*size=9*> %", "", 8, color, 5, 0, false);
+    value->setBackground(0xf4f6fa, color, 0);
+    value->setRoundedCorners(6, -1, -1, -1);
+    p->addLine(20, 95, 150, 95, p->dashLineColor(color, 0x0202), 1);
+    return p;
+}
+
+static bool wrappedCharts(const std::string &path) {
+    abc::MultiChart *outer = abc::MultiChart::create(400, 220, 0xf4f6fa, 0x1f3a5f, 0);
+    outer->setRoundedFrame(0xffffff, 14, -1, -1, -1);
+    outer->addTitle("Charts placed in a multi-chart", "", 12, 0x1f3a5f, (int)0xFF000000,
+                    (int)0xFF000000);
+    abc::MultiChart *left = panel("North", 0x4a90d9);
+    abc::MultiChart *right = panel("South", 0xe4572e);
+    outer->addChart(20, 40, left);
+    outer->addChart(210, 40, right);
+    abc::LegendBox *legend = outer->addLegend2(200, 168, 0, "", 9);
+    legend->setAlignment(8);
+    legend->addKey("North", 0x4a90d9, -1, nullptr);
+    legend->addKey("South", 0xe4572e, -1, nullptr);
+    bool ok = outer->makeChart(path.c_str());
+    outer->releaseCharts();
+    delete outer;
+    delete left;
+    delete right;
+    return ok;
+}
+
 VISTREL_GALLERY_SAMPLE("Plug-in", "The host classes with their declarations, as registered",
                        "host_classes.txt", classListing);
 VISTREL_GALLERY_SAMPLE("Plug-in", "Bars drawn through the flat interface: palette, glass, gold",
                        "flat_interface.png", flatCanvas);
+VISTREL_GALLERY_SAMPLE("Plug-in", "Charts in a multi-chart, built through the host's wrappers",
+                       "host_multichart.png", wrappedCharts);

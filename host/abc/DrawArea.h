@@ -22,6 +22,8 @@ public:
     static DrawArea *create();
 
     CDrawArea *getHandle() const { return handle; }
+    // The engine canvas of d; null for null.
+    static CDrawArea *handleOf(const DrawArea *d) { return d ? d->handle : nullptr; }
     bool ownsEngineCanvas() const { return ownsHandle; }
 
     void enableVectorOutput(bool enable) { CDrawArea_enableVectorOutput(handle, enable); }
@@ -353,7 +355,6 @@ public:
     }
 
 private:
-    static CDrawArea *handleOf(DrawArea *d) { return d ? d->handle : nullptr; }
     MemBlock block(void (*output)(CDrawArea *, const char **, int *)) {
         MemBlock b = {0, nullptr};
         output(handle, &b.data, &b.len);

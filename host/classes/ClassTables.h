@@ -7,6 +7,13 @@ extern const ClassTables kBaseChartTables;
 extern const ClassTables kDrawAreaTables;
 extern const ClassTables kTTFTextTables;
 extern const ClassTables kArrayTables;
+extern const ClassTables kMultiChartTables;
+extern const ClassTables kDrawObjTables;
+extern const ClassTables kBoxTables;
+extern const ClassTables kTextBoxTables;
+extern const ClassTables kLineTables;
+extern const ClassTables kLegendBoxTables;
+extern const ClassTables kAxisTables;
 
 // The constants registered on VSBaseChartXPG: name and value as the host
 // language writes it.

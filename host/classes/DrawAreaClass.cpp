@@ -2,6 +2,7 @@
 #include "host/abc/DrawArea.h"
 #include "host/abc/TTFText.h"
 #include "host/classes/ClassTables.h"
+#include "host/classes/ColorMakers.h"
 #include "host/glue/Factories.h"
 #include "host/glue/Forward.h"
 #include "host/glue/GlueArgs.h"
@@ -86,9 +87,7 @@ REALobject text2(REALobject self, REALstring str, REALstring font, RBInteger fon
 // A nil block removes the entry; an empty one stores no bytes.
 void setResource(REALobject self, REALstring id, REALobject data) {
     call<void>(self, procOf(setResource), [&](DA *d) {
-        abc::MemBlock bytes = memoryBlockBytes(data);
-        if (data && !bytes.data) bytes = {0, ""};
-        d->setResource(RBText(id), bytes);
+        d->setResource(RBText(id), resourceBytes(data));
         keepHostValue(DrawAreaTarget::block(self)->resources, id, data);
     });
 }
@@ -323,43 +322,9 @@ const MethodEntry kMethods[] = {
            fwd<&DA::adjustBrightness, Color, Dbl>),
     method("allocDynColor() as integer", fwd<&DA::allocDynColor>),
     method("freeDynColor(c as integer)", fwd<&DA::freeDynColor, Color>),
-    method("dashLineColor(colorValue as integer, patternCode as integer = &h0505) as integer",
-           fwd<&DA::dashLineColor, Color, Int>),
-    method("dashLineColor(colorValue as color, patternCode as integer = &h0505) as integer",
-           fwd<&DA::dashLineColor, ColorC, Int>),
-    method("patternColor(colors() as integer, height as integer, startX as integer = 0, "
-           "startY as integer = 0) as integer", fwd<&DA::patternColor, Ints, Int, Px, Px>),
-    method("patternColor(file as string, startX as integer = 0, startY as integer = 0) "
-           "as integer", fwd<&DA::patternColor2, Str, Px, Px>),
-    method("gradientColor(startX as integer, startY as integer, endX as integer, "
-           "endY as integer, startColor as integer, endColor as integer) as integer",
-           fwd<&DA::gradientColor, Px, Px, Px, Px, Color, Color>),
-    method("gradientColor(startX as integer, startY as integer, endX as integer, "
-           "endY as integer, startColor as color, endColor as color) as integer",
-           fwd<&DA::gradientColor, Px, Px, Px, Px, ColorC, ColorC>),
-    method("gradientColor(colors() as integer, angle as double = 90, scale as double = 1.0, "
-           "startX as integer = 0, startY as integer = 0) as integer",
-           fwd<&DA::gradientColor2, Ints, Dbl, Dbl, Px, Px>),
-    method("linearGradientColor(startX as integer, startY as integer, endX as integer, "
-           "endY as integer, startColor as integer, endColor as integer, "
-           "periodic as boolean = false) as integer",
-           fwd<&DA::linearGradientColor, Px, Px, Px, Px, Color, Color, Bool>),
-    method("linearGradientColor(startX as integer, startY as integer, endX as integer, "
-           "endY as integer, startColor as color, endColor as color, "
-           "periodic as boolean = false) as integer",
-           fwd<&DA::linearGradientColor, Px, Px, Px, Px, ColorC, ColorC, Bool>),
-    method("linearGradientColor(startX as integer, startY as integer, endX as integer, "
-           "endY as integer, colors() as integer, periodic as boolean = false) as integer",
-           fwd<&DA::linearGradientColor2, Px, Px, Px, Px, Ints, Bool>),
-    method("radialGradientColor(cx as integer, cy as integer, rx as integer, ry as integer, "
-           "startColor as integer, endColor as integer, periodic as boolean = false) "
-           "as integer", fwd<&DA::radialGradientColor, Px, Px, Px, Px, Color, Color, Bool>),
-    method("radialGradientColor(cx as integer, cy as integer, rx as integer, ry as integer, "
-           "startColor as color, endColor as color, periodic as boolean = false) as integer",
-           fwd<&DA::radialGradientColor, Px, Px, Px, Px, ColorC, ColorC, Bool>),
-    method("radialGradientColor(cx as integer, cy as integer, rx as integer, ry as integer, "
-           "colors() as integer, periodic as boolean = false) as integer",
-           fwd<&DA::radialGradientColor2, Px, Px, Px, Px, Ints, Bool>),
+};
+
+const MethodEntry kTailMethods[] = {
     method("angleGradientColor(cx as double, cy as double, startAngle as double, "
            "endAngle as double, innerRadius as double, outerRadius as double, "
            "colors() as integer) as integer",
@@ -383,6 +348,12 @@ const MethodEntry kMethods[] = {
 };
 // clang-format on
 
+TableSpan<MethodEntry> methods() {
+    static std::vector<MethodEntry> all;
+    return joinTables(
+        all, {tableOf(kMethods), colorMakerMethods<DrawAreaTarget>(), tableOf(kTailMethods)});
+}
+
 const PropertyEntry kProperties[] = {
     readOnlyProperty("Handle", "Integer", getHandle),
     readOnlyProperty("Resources", "Dictionary", getResources),
@@ -391,7 +362,7 @@ const PropertyEntry kProperties[] = {
 }  // namespace
 
 const ClassTables kDrawAreaTables = {
-    tableOf(kMethods),
+    methods(),
     tableOf(kProperties),
     {nullptr, 0},
     {nullptr, 0},

@@ -2,6 +2,7 @@
 
 #include "host/glue/Blocks.h"
 #include "host/glue/ClassId.h"
+#include "host/glue/Forward.h"
 
 // What charts keep in their blocks: the standing axis objects and the child
 // charts of a multi-chart.
@@ -13,6 +14,24 @@
 // root is the axis class's block (Axis or AngularAxis), className the class.
 REALobject cachedAxisObject(REALobject &slot, ClassId root, const char *className, void *wrapper,
                             REALobject parent);
+
+// The glue of a chart method that gives one of its standing axes (xAxis and
+// the like): Get is the family wrapper's method that gives the axis wrapper,
+// Slot where the chart keeps the axis object.
+template <class Target, auto Get, ChartAxisSlot Slot>
+struct StandingAxis {
+    static REALobject glue(REALobject self) {
+        auto body = [self](typename Target::Wrapper *chart) {
+            ChartBlock *b = blockOf<ChartBlock>(self, ClassId::BaseChart);
+            return cachedAxisObject(b->axes[Slot], ClassId::Axis, "VSAxisXPG", (chart->*Get)(),
+                                    b->parent);
+        };
+        return callWrapper<Target, REALobject>(self, reinterpret_cast<REALproc>(&glue), body);
+    }
+};
+
+template <class Target, auto Get, ChartAxisSlot Slot>
+constexpr auto standingAxis = &StandingAxis<Target, Get, Slot>::glue;
 
 // Keeps a host chart in a multi-chart's child array, so that asking for the
 // chart later gives the same host object.

@@ -3,6 +3,7 @@
 #include <type_traits>
 
 #include "host/abc/Views.h"
+#include "host/glue/ChartFactories.h"
 #include "host/glue/ClassRegistry.h"
 #include "host/glue/Debugging.h"
 #include "host/glue/HostExceptions.h"
@@ -77,9 +78,35 @@ struct WrapperMethod<R (W::*)(P...)> {
     using Result = R;
 };
 
+// Parts that an object hands out (a chart's titles, legend, canvas) become host
+// objects that hold the object of the call as their owner, so that a part keeps
+// its chart alive.
+template <class R>
+struct PartResult {
+    static constexpr bool kIsPart = false;
+};
+
+template <class W, REALobject (*Factory)(W *, REALobject, REALobject)>
+struct PartOf {
+    static constexpr bool kIsPart = true;
+    static REALobject out(W *part, REALobject owner) { return Factory(part, owner, nullptr); }
+};
+
+template <>
+struct PartResult<abc::TextBox *> : PartOf<abc::TextBox, &NewTextBoxXPG> {};
+template <>
+struct PartResult<abc::LegendBox *> : PartOf<abc::LegendBox, &NewLegendBoxXPG> {};
+template <>
+struct PartResult<abc::VSLine *> : PartOf<abc::VSLine, &NewLineXPG> {};
+template <>
+struct PartResult<abc::VSMLTable *> : PartOf<abc::VSMLTable, &NewMLTableXPG> {};
+template <>
+struct PartResult<abc::DrawArea *> : PartOf<abc::DrawArea, &NewChartCanvasXPG> {};
+
 // A wrapper method that hands back its own wrapper (calls that chain) returns
 // the host object itself, with a lock for the caller.
-template <class Wrapper, class R, bool ReturnsSelf = std::is_same_v<R, Wrapper *>>
+template <class Wrapper, class R,
+          bool HostObject = std::is_same_v<R, Wrapper *> || PartResult<R>::kIsPart>
 struct HostResultOf {
     using type = typename GlueResult<R>::Host;
 };
@@ -104,6 +131,8 @@ struct Forward {
                 if (!(w->*Method)(Arg::in(args)...)) return nullptr;
                 REALLockObject(self);
                 return self;
+            } else if constexpr (PartResult<R>::kIsPart) {
+                return PartResult<R>::out((w->*Method)(Arg::in(args)...), self);
             } else {
                 return GlueResult<R>::out((w->*Method)(Arg::in(args)...));
             }

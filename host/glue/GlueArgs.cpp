@@ -1,6 +1,7 @@
 #include "host/glue/GlueArgs.h"
 
 #include "host/abc/ArrayMath.h"
+#include "host/abc/chart/Axis.h"
 #include "host/glue/Blocks.h"
 #include "host/glue/ClassRegistry.h"
 
@@ -8,6 +9,14 @@ namespace glue {
 
 abc::DrawArea *Canvas::in(Host v) {
     return v ? blockOf<DrawAreaBlock>(v, ClassId::DrawArea)->handle : nullptr;
+}
+
+abc::Axis *AxisObj::in(Host v) {
+    return v ? blockOf<AxisBlock>(v, ClassId::Axis)->axis : nullptr;
+}
+
+abc::BaseChart *ChartObj::in(Host v) {
+    return v ? blockOf<ChartBlock>(v, ClassId::BaseChart)->handle : nullptr;
 }
 
 abc::DoubleArray ArrayValues::in(Host v) {

@@ -6,8 +6,10 @@
 #include "host/sdk/PluginTypes.h"
 
 namespace abc {
+class Axis;
+class BaseChart;
 class DrawArea;
-}
+}  // namespace abc
 
 // How one host argument becomes one engine argument: Host is the C type the
 // host passes, in() the value the wrapper gets.  The "Px" forms are pixel
@@ -26,6 +28,11 @@ struct Px {
 struct PxAuto {
     using Host = RBInteger;
     static int in(Host v) { return v < 0 ? (int)v : scalePixels(v); }
+};
+// A pixel measure whose largest value means "not given": left as it is.
+struct PxOrUnset {
+    using Host = RBInteger;
+    static int in(Host v) { return v == 0x7FFFFFFF ? (int)v : scalePixels(v); }
 };
 struct Dbl {
     using Host = double;
@@ -53,6 +60,14 @@ struct Str {
     using Host = REALstring;
     static RBText in(Host v) { return RBText(v); }
 };
+// The first byte of a host string; 0 for an empty one.
+struct Char {
+    using Host = REALstring;
+    static char in(Host v) {
+        RBText t(v);
+        return t.str().empty() ? 0 : t.str()[0];
+    }
+};
 struct Doubles {
     using Host = REALarray;
     static RBDoubleArray in(Host v) { return RBDoubleArray(v); }
@@ -69,6 +84,11 @@ struct PxInts {
     using Host = REALarray;
     static RBIntArray in(Host v) { return RBIntArray(v, true); }
 };
+// A host Color array as engine colour words.
+struct Colors {
+    using Host = REALarray;
+    static RBColorArray in(Host v) { return RBColorArray(v); }
+};
 struct Strings {
     using Host = REALarray;
     static RBStringArray in(Host v) { return RBStringArray(v); }
@@ -82,6 +102,16 @@ struct Bytes {
 struct Canvas {
     using Host = REALobject;
     static abc::DrawArea *in(Host v);
+};
+// A VSAxisXPG, or null.
+struct AxisObj {
+    using Host = REALobject;
+    static abc::Axis *in(Host v);
+};
+// A VSBaseChartXPG, or null.
+struct ChartObj {
+    using Host = REALobject;
+    static abc::BaseChart *in(Host v);
 };
 // The numbers of a VSArrayXPG, borrowed for the call.
 struct ArrayValues {

@@ -65,6 +65,11 @@ RBIntArray::RBIntArray(REALarray a, bool pixels) {
     }
 }
 
+RBColorArray::RBColorArray(REALarray a) {
+    sizeFor(values, hostArrayCount(a));
+    for (size_t i = 0; i < values.size(); ++i) values[i] = (int)REALGetArrayValueColor(a, i);
+}
+
 RBStringArray::RBStringArray(REALarray a) {
     RBInteger n = hostArrayCount(a);
     texts.reserve(n);
@@ -82,6 +87,12 @@ abc::MemBlock memoryBlockBytes(REALobject mb) {
     const char *data = static_cast<const char *>(REALMemoryBlockGetPtr(mb));
     if (!data || size <= 0) return {0, nullptr};
     return {size > INT_MAX ? INT_MAX : (int)size, data};
+}
+
+abc::MemBlock resourceBytes(REALobject mb) {
+    abc::MemBlock bytes = memoryBlockBytes(mb);
+    if (mb && !bytes.data) bytes = {0, ""};
+    return bytes;
 }
 
 REALstring newHostString(const char *text) {

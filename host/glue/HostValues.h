@@ -50,6 +50,17 @@ private:
     std::vector<int> values;
 };
 
+// A copy of a host Color array as engine colour words: the host packs a Color
+// as the engine packs its colours.
+class RBColorArray {
+public:
+    explicit RBColorArray(REALarray a);
+    operator abc::IntArray() const { return {viewLength(values.size()), values.data()}; }
+
+private:
+    std::vector<int> values;
+};
+
 // A copy of a host String array as UTF-8 texts.
 class RBStringArray {
 public:
@@ -63,6 +74,9 @@ private:
 
 // The bytes of a host MemoryBlock, borrowed for the call; empty for nil.
 abc::MemBlock memoryBlockBytes(REALobject mb);
+// The bytes of a MemoryBlock given to setResource: nil takes the entry away,
+// an empty block stores no bytes.
+abc::MemBlock resourceBytes(REALobject mb);
 
 REALstring newHostString(const char *text);
 REALarray newHostDoubleArray(abc::DoubleArray a);

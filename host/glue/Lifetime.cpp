@@ -3,8 +3,8 @@
 #include <cstring>
 
 #include "host/abc/AutoDeleteContainer.h"
-#include "host/abc/BaseChart.h"
 #include "host/abc/DrawArea.h"
+#include "host/abc/chart/MultiChart.h"
 #include "host/glue/ClassRegistry.h"
 #include "host/glue/Debugging.h"
 #include "host/sdk/HostFunctions.h"
@@ -69,6 +69,9 @@ void BaseChartDestructor(REALobject self) {
     memset(b->axes, 0, sizeof b->axes);
     unlockRef(b->parent);
     b->parent = nullptr;
+    // The charts placed in a multi-chart may outlive it: they forget it while
+    // the child array still keeps them.
+    if (!b->owner && b->multiChart) b->multiChart->releaseCharts();
     unlockRef(reinterpret_cast<REALobject>(b->children));
     b->children = nullptr;
     // A chart handed out by a multi-chart belongs to it; a root chart is ours.

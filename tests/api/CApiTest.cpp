@@ -7,6 +7,15 @@
 #include "api/CChart.h"
 #include "api/CDrawArea.h"
 #include "api/CTTFText.h"
+#include "api/chart/CAxis.h"
+#include "api/chart/CBaseChart.h"
+#include "api/chart/CBox.h"
+#include "api/chart/CDrawObj.h"
+#include "api/chart/CLegendBox.h"
+#include "api/chart/CLine.h"
+#include "api/chart/CMultiChart.h"
+#include "api/chart/CTextBox.h"
+#include "api/chart/CVSMLTable.h"
 #include "draw/canvas/DrawArea.h"
 #include "foundation/Constants.h"
 
@@ -131,6 +140,60 @@ TEST(CApi, ChartStaticsTakeFlatViews) {
                                                    lighting, 64));
 }
 
+TEST(CApi, NullChartHandlesReadAsZero) {
+    EXPECT_EQ(0, CBaseChart_getWidth(nullptr));
+    EXPECT_EQ(nullptr, CBaseChart_addTitle(nullptr, "t", "", 12, 0, 0, 0));
+    EXPECT_EQ(nullptr, CBaseChart_getLegend(nullptr));
+    EXPECT_EQ(nullptr, CBaseChart_makeChart4(nullptr));
+    const char *data = "x";
+    int len = 3;
+    EXPECT_FALSE(CBaseChart_makeChart3(nullptr, kPNG, &data, &len));
+    EXPECT_EQ(nullptr, data);
+    EXPECT_EQ(0, len);
+    EXPECT_EQ(nullptr, CMultiChart_getChart(nullptr, 0));
+    EXPECT_EQ(nullptr, CMultiChart_toBaseChart(nullptr));
+    EXPECT_EQ(nullptr, CMultiChart_fromBaseChart(nullptr));
+    EXPECT_EQ(0, CDrawObj_getZOrder(nullptr));
+    EXPECT_EQ(nullptr, CBox_getImageCoor(nullptr, 0, 0));
+    EXPECT_EQ(nullptr, CTextBox_toBox(nullptr));
+    EXPECT_EQ(nullptr, CLegendBox_getHTMLImageMap(nullptr, "u", "", "", 0, 0));
+    EXPECT_EQ(nullptr, CLine_toDrawObj(nullptr));
+    EXPECT_EQ(nullptr, CVSMLTable_toDrawObj(nullptr));
+    EXPECT_EQ(0, CAxis_getCoor(nullptr, 1));
+    CAxis_getTicks(nullptr, nullptr, nullptr);
+    CBaseChart_destroy(nullptr);
+}
+
+// The handle of a derived class becomes its base's through the conversions,
+// which the virtual bases need: the same object seen at each level.
+TEST(CApi, ChartHandlesConvertAlongTheirBases) {
+    CMultiChart *m = CMultiChart_create(100, 60, 0xffffff, -16777216, 0);
+    CBaseChart *c = CMultiChart_toBaseChart(m);
+    EXPECT_EQ(m, CMultiChart_fromBaseChart(c));
+    EXPECT_EQ(100, CBaseChart_getWidth(c));
+    CLegendBox *legend = CBaseChart_addLegend2(c, 10, 10, 2, "", 9);
+    EXPECT_EQ(legend, CBaseChart_getLegend(c));
+    CTextBox *text = CLegendBox_toTextBox(legend);
+    CDrawObj *obj = CBox_toDrawObj(CTextBox_toBox(text));
+    CDrawObj_setZOrder(obj, 0x123);
+    EXPECT_EQ(0x123, CDrawObj_getZOrder(obj));
+    CLine *line = CBaseChart_addLine(c, 0, 0, 9, 9, 0x000000, 1);
+    CDrawObj_setZOrder(CLine_toDrawObj(line), 5);
+    EXPECT_EQ(5, CDrawObj_getZOrder(CLine_toDrawObj(line)));
+    CMultiChart *inner = CMultiChart_create(20, 20, 0xffffff, -16777216, 0);
+    CMultiChart_addChart(m, 30, 5, CMultiChart_toBaseChart(inner));
+    EXPECT_EQ(CMultiChart_toBaseChart(inner), CMultiChart_getChart(m, 0));
+    EXPECT_EQ(30, CBaseChart_getAbsOffsetX(CMultiChart_toBaseChart(inner)));
+    CBaseChart_setContainer(CMultiChart_toBaseChart(inner), nullptr);
+    EXPECT_EQ(0, CBaseChart_getAbsOffsetX(CMultiChart_toBaseChart(inner)));
+    const char *bytes = nullptr;
+    int n = 0;
+    EXPECT_TRUE(CBaseChart_makeChart3(c, kPNG, &bytes, &n));
+    EXPECT_EQ(std::string("\x89PNG", 4), std::string(bytes, 4));
+    CBaseChart_destroy(c);
+    CBaseChart_destroy(CMultiChart_toBaseChart(inner));
+}
+
 // The headers are C: they compile as C99 on their own.
 TEST(CApi, HeadersAreC99) {
     std::string command =
@@ -141,6 +204,11 @@ TEST(CApi, HeadersAreC99) {
     fputs(
         "#include \"api/CDrawArea.h\"\n#include \"api/CTTFText.h\"\n"
         "#include \"api/CArrayMath.h\"\n#include \"api/CChart.h\"\n"
+        "#include \"api/chart/CAxis.h\"\n#include \"api/chart/CBaseChart.h\"\n"
+        "#include \"api/chart/CBox.h\"\n#include \"api/chart/CDrawObj.h\"\n"
+        "#include \"api/chart/CLegendBox.h\"\n#include \"api/chart/CLine.h\"\n"
+        "#include \"api/chart/CMultiChart.h\"\n#include \"api/chart/CTextBox.h\"\n"
+        "#include \"api/chart/CVSMLTable.h\"\n"
         "int main(void) { return CChart_xySize(1, 2) == 0; }\n",
         p);
     EXPECT_EQ(0, pclose(p));

@@ -81,3 +81,21 @@ TEST(MultiChart, ViewAreaComesFromTheMainChart) {
     multi->makeChart();
     EXPECT_STREQ(multi->getChartMetrics(), "w=400&h=300&vl=0&vt=0&vw=29&vh=39");
 }
+
+// A multi-chart placed in itself, or in a chart it holds, is walked once: its
+// image map and view area come back instead of recursing without end.
+TEST(MultiChart, ChartsHoldingThemselvesAreWalkedOnce) {
+    Owned<MultiChart> a(MultiChart::create(100, 80, 0xFFFFFF, kTransparent, 0));
+    Owned<MultiChart> b(MultiChart::create(60, 40, 0xFFFFFF, kTransparent, 0));
+    a->addChart(0, 0, a.get());
+    a->addChart(10, 20, b.get());
+    b->addChart(5, 5, a.get());
+    a->setMainChart(a.get());
+    b->setMainChart(a.get());
+    EXPECT_STREQ("", a->getHTMLImageMap("u", "", "", 0, 0));
+    EXPECT_EQ(a->getProperty(0x206), 99 + 5 + 10);
+    EXPECT_EQ(b->getProperty(0x206), 99 + 5);
+    Owned<MultiChart> self(MultiChart::create(30, 20, 0xFFFFFF, kTransparent, 0));
+    self->addChart(0, 0, self.get());
+    EXPECT_EQ(self->makeChart()->getWidth(), 30);
+}

@@ -2,11 +2,29 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <memory>
+#include <regex>
 #include <string>
 #include <vector>
 
 #include "tests/host/simhost/SimHost.h"
+
+// Symbols and texts are numbered by a counter of the process, and the plug-in
+// has its own: numbered in the order they first appear, listings compare.
+inline std::string renumbered(const std::string &listing) {
+    static const std::regex id("(DefineSymbol|MergeWithScaling|Text)\\((\\d+)");
+    std::map<std::string, int> order;
+    std::string out;
+    auto last = listing.cbegin();
+    for (std::sregex_iterator m(listing.begin(), listing.end(), id), end; m != end; ++m) {
+        out.append(last, (*m)[2].first);
+        auto found = order.emplace((*m)[2].str(), (int)order.size()).first;
+        out += std::to_string(found->second);
+        last = (*m)[2].second;
+    }
+    return out.append(last, listing.cend());
+}
 
 // A fresh simulated host per test, with the plug-in's globals back at their
 // defaults; at the end nothing the test made may be left alive.
