@@ -117,25 +117,11 @@ AxisImpl *PlotAreaImpl::getAxis(int i) const {
 }
 
 // The x axes are the bottom and top ones, the y axes the left and right ones;
-// swapXY trades the pairs.
-AxisImpl *PlotAreaImpl::xAxis() const {
-    int first = swapXY ? kLeftAxis : kBottomAxis;
-    return axes[first + (xAxisOnTop ? 1 : 0)];
-}
-
-AxisImpl *PlotAreaImpl::xAxis2() const {
-    int first = swapXY ? kLeftAxis : kBottomAxis;
-    return axes[first + (xAxisOnTop ? 0 : 1)];
-}
-
-AxisImpl *PlotAreaImpl::yAxis() const {
-    int first = swapXY ? kBottomAxis : kLeftAxis;
-    return axes[first + (yAxisOnRight ? 1 : 0)];
-}
-
-AxisImpl *PlotAreaImpl::yAxis2() const {
-    int first = swapXY ? kBottomAxis : kLeftAxis;
-    return axes[first + (yAxisOnRight ? 0 : 1)];
+// swapXY trades the pairs.  The flag takes the second of the pair as the first.
+AxisImpl *PlotAreaImpl::standard(bool xRole, bool primary) const {
+    int first = swapXY == xRole ? kLeftAxis : kBottomAxis;
+    bool flipped = xRole ? xAxisOnTop : yAxisOnRight;
+    return axes[first + (primary == flipped ? 1 : 0)];
 }
 
 AxisImpl *PlotAreaImpl::addAxis(int alignment, int offset) {
@@ -181,14 +167,7 @@ void PlotAreaImpl::setTrimData(int startPos, int len) {
 }
 
 PlotFrame PlotAreaImpl::getFrame() const {
-    PlotFrame f;
-    f.x = x;
-    f.y = y;
-    f.width = width;
-    f.height = height;
-    f.depthX = depthX;
-    f.depthY = depthY;
-    return f;
+    return PlotFrame{x, y, width, height, depthX, depthY};
 }
 
 // ---- Layers ----
@@ -312,6 +291,16 @@ int PlotAreaImpl::sideNeed(int side) {
 
 void PlotAreaImpl::packPlotArea(int leftX, int topY, int rightX, int bottomY, int minWidth,
                                 int minHeight) {
+    // The axes are measured on the box itself, so that their scales and the
+    // labels they keep are close to those of the packed plot.
+    if (leftX < rightX) {
+        x = leftX;
+        width = rightX - leftX;
+    }
+    if (topY < bottomY) {
+        y = topY;
+        height = bottomY - topY;
+    }
     layoutAxes();
     if (leftX < rightX) {
         PlotSpan span =

@@ -48,10 +48,10 @@ public:
     int getBottomY() const override { return y + height; }
 
     // Axes.
-    AxisImpl *xAxis() const;
-    AxisImpl *xAxis2() const;
-    AxisImpl *yAxis() const;
-    AxisImpl *yAxis2() const;
+    AxisImpl *xAxis() const { return standard(true, true); }
+    AxisImpl *xAxis2() const { return standard(true, false); }
+    AxisImpl *yAxis() const { return standard(false, true); }
+    AxisImpl *yAxis2() const { return standard(false, false); }
     AxisImpl *getAxis(int i) const;
     int getAxisCount() const { return (int)axes.size(); }
     // Null for an alignment other than kBottom, kLeft, kRight, kTop.
@@ -102,6 +102,8 @@ public:
     void paintFront();
 
 private:
+    // The standard axis of the x or the y role, the first or the second.
+    AxisImpl *standard(bool xRole, bool primary) const;
     AxisImpl *makeAxis(int alignment);
     void placeAxes();
     void placeAtOrigin(AxisImpl *axis, const AxisImpl *across);

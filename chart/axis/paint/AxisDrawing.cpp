@@ -122,13 +122,14 @@ void AxisDrawing::drawMarks() {
     const std::vector<MarkImpl *> &marks = painter.getMarks();
     for (size_t i = 0; i < marks.size(); ++i) {
         MarkImpl *mark = marks[i];
-        if (mark->isInPlot()) continue;
         double coor = scale.getCoor(mark->getValue());
         if (!isOnAxis(coor)) {
-            painter.setMarkBox((int)i, nullptr);
+            if (!mark->isInPlot()) painter.setMarkBox((int)i, nullptr);
             continue;
         }
         drawTickMark(coor, style.getLength(false), mark->getTickColor(), style.getWidth(false));
+        // A label in the plot is placed by the plot-area pass.
+        if (mark->isInPlot()) continue;
         TextBoxImpl2 *box =
             place(newBox(mark), coor, labelDistance, labelAnchor(mark->getFontAngle()));
         painter.setMarkBox((int)i, box);

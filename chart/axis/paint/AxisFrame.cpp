@@ -27,9 +27,11 @@ AxisFrame AxisFrame::turned(double angle, double x, double y) {
     return AxisFrame(kCenter, x, y, c, s, -s, c);
 }
 
-// Upright axes draw on whole pixels, so that lines and ticks stay crisp.
+// Upright axes draw on whole pixels, so that lines and ticks stay crisp;
+// turned ones on 64ths, which keep the sine's rounding noise out of the drawing.
 double AxisFrame::snap(double v) const {
-    return side == kCenter ? v : std::floor(v + 0.5);
+    double steps = side == kCenter ? 64 : 1;
+    return std::floor(v * steps + 0.5) / steps;
 }
 
 double AxisFrame::pointX(double along, double out) const {
