@@ -239,22 +239,32 @@ void PlotAreaImpl::layoutScales() {
         }
 }
 
+// Bottom and left axes stand at the front of a 3D plot, top and right ones at
+// its back wall.
+int PlotAreaImpl::edgeOf(int side) const {
+    switch (side) {
+        case kTop:
+            return y - depthY;
+        case kLeft:
+            return x;
+        case kRight:
+            return x + width + depthX;
+        default:
+            return y + height;
+    }
+}
+
 void PlotAreaImpl::placeAxes() {
     for (AxisImpl *axis : axes) {
         int side = axis->getAlignment();
         axis->setLength(standsAlongX(axis) ? width : height);
         AxisPainter &painter = axis->getPainter();
-        switch (side) {
-            case kTop:
-                painter.setPosition(x, y);
-                break;
-            case kRight:
-                painter.setPosition(x + width, y + height);
-                break;
-            default:
-                painter.setPosition(x, y + height);
-                break;
-        }
+        if (side == kTop)
+            painter.setPosition(x + depthX, edgeOf(kTop));
+        else if (side == kRight)
+            painter.setPosition(edgeOf(kRight), y + height - depthY);
+        else
+            painter.setPosition(x, y + height);
     }
     if (axisAtOrigin & kXAxisAtOrigin) placeAtOrigin(xAxis(), yAxis());
     if (axisAtOrigin & kYAxisAtOrigin) placeAtOrigin(yAxis(), xAxis());
@@ -279,11 +289,10 @@ int PlotAreaImpl::sideNeed(int side) {
         if (axis->getAlignment() != side) continue;
         AxisPainter &painter = axis->getPainter();
         // An axis moved into the plot needs that much less outside it.
-        int inside = 0;
-        if (side == kBottom) inside = y + height - painter.getY();
-        if (side == kTop) inside = painter.getY() - y;
-        if (side == kLeft) inside = painter.getX() - x;
-        if (side == kRight) inside = x + width - painter.getX();
+        bool alongX = side == kBottom || side == kTop;
+        int place = alongX ? painter.getY() : painter.getX();
+        int inside =
+            side == kBottom || side == kRight ? edgeOf(side) - place : place - edgeOf(side);
         need = std::max(need, axis->getThickness() - inside);
     }
     return need;

@@ -105,6 +105,8 @@ private:
     // The standard axis of the x or the y role, the first or the second.
     AxisImpl *standard(bool xRole, bool primary) const;
     AxisImpl *makeAxis(int alignment);
+    // Where the axes of a side stand before any offset or move to the origin.
+    int edgeOf(int side) const;
     void placeAxes();
     void placeAtOrigin(AxisImpl *axis, const AxisImpl *across);
     void layoutScales();

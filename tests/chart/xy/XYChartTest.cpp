@@ -385,6 +385,11 @@ TEST(XYChart, BackgroundsBandsQuadrantsAndWalls) {
     EXPECT_LT(lineWith(lines, "0x0000c7"), wall);
     EXPECT_GE(lineWith(lines, "PolyLine(0x0000c8, 1, [60, 112, 360, 112])"), 0);
     EXPECT_GE(lineWith(lines, "PolyLine(0x0000c8, 1, [50, 120, 60, 112])"), 0);
+    // Bottom and left axes stand in front, top and right ones at the back wall.
+    EXPECT_EQ(impl(deep->yAxis())->getPainter().getX(), 50);
+    EXPECT_EQ(impl(deep->yAxis2())->getPainter().getX(), 360);
+    EXPECT_EQ(impl(deep->yAxis2())->getPainter().getY(), 212);
+    EXPECT_EQ(impl(deep->xAxis2())->getPainter().getY(), 12);
 }
 
 TEST(XYChart, AxesAtTheOriginAndSymmetricScales) {
