@@ -63,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     for (size_t i = 0; i + 1 < texts.size(); ++i) {
         const std::string &t = texts[i];
         int n = (int)(i * 31 + t.size());
-        uint8_t a = i < texts.size() && !t.empty() ? (uint8_t)t[0] : 0;
+        uint8_t a = !t.empty() ? (uint8_t)t[0] : 0;
         uint8_t b = t.size() > 1 ? (uint8_t)t[1] : 0;
         Axis *axis = axes[n % 5];
         if (!axis) continue;
