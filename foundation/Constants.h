@@ -40,6 +40,23 @@ enum ZOrder {
     kChartFrontZ = 0xFFFF,
 };
 
+// Which axes of an XY chart stand at the other axis's 0.
+enum AxisAtOrigin {
+    kXAxisAtOrigin = 1,
+    kYAxisAtOrigin = 2,
+    kXYAxisAtOrigin = 3,
+};
+
+// Bits of the XY chart's symmetry mode: scales centred on 0.
+enum AxisSymmetry {
+    kXAxisSymmetric = 1,
+    kXAxisSymmetricIfNeeded = 2,
+    kYAxisSymmetric = 4,
+    kYAxisSymmetricIfNeeded = 8,
+    kXYAxisSymmetric = 16,
+    kXYAxisSymmetricIfNeeded = 32,
+};
+
 enum DataCombineMethod {
     kOverlay = 0,
     kStack = 1,

@@ -5,12 +5,15 @@
 class BaseChart;
 class DrawArea;
 class Formatter;
+class Mark;
+class TextBox;
 
 // The scale of a chart axis: its limits, the mapping of values to pixels, and
-// the ticks with their labels.  A scale is automatic (made from the data at
-// layout), fixed by the caller, synchronised with another axis, or a text axis
-// of labels.  Setters only store or fill the tick list; the automatic work runs
-// when the chart lays out its axes.  Axes belong to their chart.
+// the ticks with their labels; and its look: line, ticks, labels, title, marks
+// and zones.  A scale is automatic (made from the data at layout), fixed by the
+// caller, synchronised with another axis, or a text axis of labels.  Setters
+// only store or fill the tick list; the automatic work runs when the chart lays
+// out its axes.  Axes belong to their chart.
 class Axis {
 public:
     // The chart, its canvas and its formatter; none of them is owned.
@@ -98,4 +101,46 @@ public:
     // The value by a format or template; dates by "mmm dd, yyyy" when the format
     // is empty.  The text lives until the next call.
     virtual const char *getFormattedLabel(double value, const char *format) = 0;
+
+    // The look.  Colours: a titleColor of -1 takes the label colour, a tickColor
+    // of -1 the axis colour.
+    virtual void setColors(int axisColor, int labelColor, int titleColor, int tickColor) = 0;
+    // An empty font is "bold".  The title turns along a vertical axis unless its
+    // box is given an angle.
+    virtual TextBox *setTitle(const char *text, const char *font, double fontSize,
+                              int fontColor) = 0;
+    // Where along the axis the title stands (its alignment: the left, middle or
+    // right part along a horizontal axis, the bottom, middle or top part along a
+    // vertical one), and its gap from the labels.
+    virtual void setTitlePos(int alignment, int titleGap) = 0;
+    virtual TextBox *setLabelStyle(const char *font, double fontSize, int fontColor,
+                                   double fontAngle) = 0;
+    // Pixels between the ticks and the labels.
+    virtual void setLabelGap(int gap) = 0;
+    // The left (bottom) part puts each label's start at its tick, the right
+    // (top) part its end; and the least room between labels, below which a
+    // label is left out.
+    virtual void setLabelAlignment(int alignment, int minLabelSpace) = 0;
+    // Positive lengths point away from the plot.  The first form makes the
+    // minor ticks half as long.
+    virtual void setTickLength(int majorTickLength) = 0;
+    virtual void setTickLength2(int majorTickLength, int minorTickLength) = 0;
+    // A minor colour or width of -1 takes the major one.
+    virtual void setTickColor(int majorTickColor, int minorTickColor) = 0;
+    virtual void setTickWidth(int majorTickWidth, int minorTickWidth) = 0;
+    // The width of the axis line.
+    virtual void setWidth(int width) = 0;
+    // Moves the axis from its place by pixels.
+    virtual void setOffset(int x, int y) = 0;
+    // Shift the tick marks, or the labels, along the axis by a value: 0.5 on a
+    // text axis puts them between the labels.
+    virtual void setTickOffset(double offset) = 0;
+    virtual void setLabelOffset(double offset) = 0;
+    // A line across the plot at the value, with a tick and a label.
+    virtual Mark *addMark(double value, int lineColor, const char *text, const char *font,
+                          double fontSize) = 0;
+    // A band across the plot between two values, behind everything of the plot.
+    virtual void addZone(double startValue, double endValue, int color) = 0;
+    // kBottom, kLeft, kRight or kTop: the side of the plot the axis stands on.
+    virtual int getAlignment() const = 0;
 };

@@ -14,6 +14,7 @@
 #include "chart/axis/scale/LogScaler.h"
 #include "chart/axis/scale/LogTickGenerator.h"
 #include "chart/axis/scale/TimeTickGenerator.h"
+#include "chart/base/BaseChart.h"
 #include "foundation/Constants.h"
 #include "text/template/TemplateHelpers.h"
 
@@ -74,8 +75,10 @@ AxisImpl::AxisImpl(BaseChart *owner, DrawArea *drawArea, const Formatter *format
       layoutDone(false),
       fieldSource(nullptr),
       dataMin(kNoValue),
-      dataMax(kNoValue) {
+      dataMax(kNoValue),
+      painter(owner, drawArea) {
     labelFormatter.setDefault(formatter);
+    painter.setAlignment(orientation.alignment);
 }
 
 void AxisImpl::destroy() {
@@ -401,6 +404,26 @@ double AxisImpl::getCoor(double value) const {
     return (double)usableLength() * f + marginTop;
 }
 
+double AxisImpl::getValue(double coor) const {
+    if (!std::isfinite(coor)) return kNoValue;
+    if (syncTarget && syncSlope != 0) {
+        if (inSync) return kNoValue;
+        inSync = true;
+        double v = of(syncTarget)->getValue(coor);
+        inSync = false;
+        return v == kNoValue ? kNoValue : syncSlope * v + syncIntercept;
+    }
+    long long usable = usableLength();
+    if (usable == 0) return kNoValue;
+    double f = (coor - marginTop) / (double)usable;
+    if (indentMode == 1) {
+        double span = std::fabs(mapping.getUpper() - mapping.getLower());
+        f = f * (span + 1) / (span == 0 ? 1 : span) - 0.5 / (span == 0 ? 1 : span);
+    }
+    if (reversed) f = 1 - f;
+    return mapping.fromFraction(f);
+}
+
 DoubleArray AxisImpl::getTicks() {
     tickValues = ticks.keys();
     return DoubleArray(tickValues.data(), (int)tickValues.size());
@@ -430,6 +453,77 @@ int AxisImpl::getTickSpacing() const {
     return majorTickSpacing > 0 ? majorTickSpacing : orientation.defaultTickSpacing();
 }
 
+// Painting settings.
+
+void AxisImpl::setOrientation(const AxisOrientation &o) {
+    orientation = o;
+    painter.setAlignment(o.alignment);
+    painter.setAngle(o.angle);
+}
+
+void AxisImpl::setAlignment(int alignment) {
+    orientation.alignment = alignment;
+    painter.setAlignment(alignment);
+}
+
+void AxisImpl::setAngle(double angle) {
+    orientation.angle = std::isfinite(angle) ? angle : 0;
+    painter.setAngle(angle);
+}
+
+void AxisImpl::setColors(int axisColor, int labelColor, int titleColor, int tickColor) {
+    painter.setColors(axisColor, labelColor, titleColor, tickColor);
+}
+
+TextBox *AxisImpl::setTitle(const char *text, const char *font, double fontSize, int fontColor) {
+    return painter.setTitle(text, font, fontSize, fontColor);
+}
+
+void AxisImpl::setTitlePos(int alignment, int titleGap) {
+    painter.setTitlePos(alignment, titleGap);
+}
+
+TextBox *AxisImpl::setLabelStyle(const char *font, double fontSize, int fontColor,
+                                 double fontAngle) {
+    TextBox *style = painter.setLabelStyle(font, fontSize, fontColor, fontAngle);
+    takeLabelAngle();
+    return style;
+}
+
+void AxisImpl::setLabelAlignment(int alignment, int minLabelSpace) {
+    painter.setLabelAlignment(alignment, minLabelSpace);
+}
+
+void AxisImpl::setTickLength(int majorTickLength) {
+    painter.getTickStyle().setLength(majorTickLength);
+}
+
+void AxisImpl::setTickLength2(int majorTickLength, int minorTickLength) {
+    painter.getTickStyle().setLength(majorTickLength, minorTickLength);
+}
+
+void AxisImpl::setTickColor(int majorTickColor, int minorTickColor) {
+    painter.getTickStyle().setColor(majorTickColor, minorTickColor);
+}
+
+void AxisImpl::setTickWidth(int majorTickWidth, int minorTickWidth) {
+    painter.getTickStyle().setWidth(majorTickWidth, minorTickWidth);
+}
+
+Mark *AxisImpl::addMark(double value, int lineColor, const char *text, const char *font,
+                        double fontSize) {
+    return painter.addMark(value, lineColor, text, font, fontSize);
+}
+
+void AxisImpl::addZone(double startValue, double endValue, int color) {
+    painter.addZone(startValue, endValue, color);
+}
+
+void AxisImpl::takeLabelAngle() {
+    AxisLabelPrototype &style = painter.getLabelStyle();
+    if (style.isStyleSet(BoxImpl::kFontAngleStyle)) orientation.labelAngle = style.getFontAngle();
+}
+
 // Layout.
 
 void AxisImpl::layoutScale(double min, double max) {
@@ -439,6 +533,7 @@ void AxisImpl::layoutScale(double min, double max) {
 }
 
 void AxisImpl::layoutScale() {
+    takeLabelAngle();
     if (scaleMode == kSynchronised || scaleMode == kCopied) {
         synchronise();
     } else if (scaleMode == kNothingSet || scaleMode == kAutomatic) {

@@ -7,14 +7,17 @@
 #include "chart/axis/AxisOrientation.h"
 #include "chart/axis/label/LabelFormatList.h"
 #include "chart/axis/label/TickMap.h"
+#include "chart/axis/paint/AxisPainter.h"
+#include "chart/axis/paint/AxisScaleView.h"
 #include "chart/axis/scale/ScaleMapping.h"
 #include "chart/axis/scale/ScaleRecord.h"
 #include "text/template/Formatter.h"
 
 class TemplateFieldSource;
+struct PlotFrame;
 struct ScaleOutcome;
 
-class AxisImpl : public Axis {
+class AxisImpl : public Axis, public AxisScaleView {
 public:
     // How the scale came to be.
     enum ScaleMode {
@@ -76,17 +79,45 @@ public:
     double getMinValue() const override { return mapping.getLower(); }
     double getMaxValue() const override { return mapping.getUpper(); }
     double getCoor(double value) const override;
+    // The value at a pixel offset from the low end: the inverse of getCoor;
+    // kNoValue where there is none.
+    double getValue(double coor) const;
     DoubleArray getTicks() override;
     const char *getLabel(double value) const override;
     const char *getFormattedLabel(double value, const char *format) override;
+
+    void setColors(int axisColor, int labelColor, int titleColor, int tickColor) override;
+    TextBox *setTitle(const char *text, const char *font, double fontSize, int fontColor) override;
+    void setTitlePos(int alignment, int titleGap) override;
+    TextBox *setLabelStyle(const char *font, double fontSize, int fontColor,
+                           double fontAngle) override;
+    void setLabelGap(int gap) override { painter.setLabelGap(gap); }
+    void setLabelAlignment(int alignment, int minLabelSpace) override;
+    void setTickLength(int majorTickLength) override;
+    void setTickLength2(int majorTickLength, int minorTickLength) override;
+    void setTickColor(int majorTickColor, int minorTickColor) override;
+    void setTickWidth(int majorTickWidth, int minorTickWidth) override;
+    void setWidth(int width) override { painter.setWidth(width); }
+    void setOffset(int x, int y) override { painter.setOffset(x, y); }
+    void setTickOffset(double offset) override { painter.setTickOffset(offset); }
+    void setLabelOffset(double offset) override { painter.setLabelOffset(offset); }
+    Mark *addMark(double value, int lineColor, const char *text, const char *font,
+                  double fontSize) override;
+    void addZone(double startValue, double endValue, int color) override;
+    int getAlignment() const override { return orientation.alignment; }
 
     // What the chart, its plot area and the painter use.
 
     // The axis length in pixels, margins included.
     void setLength(int pixels) { length = pixels; }
-    int getLength() const { return length; }
-    void setOrientation(const AxisOrientation &o) { orientation = o; }
+    int getLength() const override { return length; }
+    // The side, the angle of a turned axis and the labels' angle; the painter
+    // takes the side and angle too.
+    void setOrientation(const AxisOrientation &o);
     const AxisOrientation &getOrientation() const { return orientation; }
+    // kBottom, kLeft, kRight, kTop, or kCenter for an axis turned by its angle.
+    void setAlignment(int alignment);
+    void setAngle(double angle);
     // What a chart kind or layer prefers where the caller set nothing.
     void setDefaultExtensions(double top, double bottom, double zeroAffinity);
     void setDefaultRounding(int roundMin, int roundMax);
@@ -105,6 +136,7 @@ public:
     void layoutScale();
 
     const TickMap &getTickMap() const { return ticks; }
+    TickMap &paintedTicks() override { return ticks; }
     // Distance between the first two major ticks; 0 with fewer.
     double getTickStep() const { return tickStep; }
     // The pixels between major ticks the scale works with.
@@ -116,6 +148,18 @@ public:
     BaseChart *getOwner() const { return owner; }
     DrawArea *getDrawArea() const { return drawArea; }
     const Formatter *getFormatter() const { return formatter; }
+
+    // Painting, for the chart: the painter's place, measures and passes.
+    AxisPainter &getPainter() { return painter; }
+    // Pixels the axis takes outward of its place; see AxisPainter.
+    int getThickness() { return painter.getThickness(*this); }
+    // Line, ticks, labels and title; the box of what was drawn.
+    PaintExtent paintAxis(DrawArea *d) { return painter.paint(*this, d); }
+    void paintZones(DrawArea *d, const PlotFrame &plot) { painter.paintZones(*this, d, plot); }
+    void placeMarks(const PlotFrame &plot) { painter.placeMarks(*this, plot); }
+    void paintMarks(DrawArea *d, const PlotFrame &plot, bool onTop) {
+        painter.paintMarks(*this, d, plot, onTop);
+    }
 
 private:
     ~AxisImpl() override = default;
@@ -134,6 +178,8 @@ private:
     void makeOwnTicks(const AxisImpl &target);
     void enterTicks(const ScaleOutcome &outcome);
     void runLabelPass();
+    // The labels' angle follows the label style once it is set there.
+    void takeLabelAngle();
     // Pixels the scale spreads over; wide enough that no length and margins overflow.
     long long usableLength() const { return (long long)length - marginTop - marginBottom; }
     int majorTickCount() const;
@@ -173,4 +219,5 @@ private:
     Formatter labelFormatter;
     std::vector<double> tickValues;
     std::string scratchText;
+    AxisPainter painter;
 };

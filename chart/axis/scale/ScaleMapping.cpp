@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "foundation/Constants.h"
+
 void ScaleMapping::setLinear(double lowerLimit, double upperLimit) {
     log = false;
     lower = lowerLimit;
@@ -25,4 +27,10 @@ double ScaleMapping::toFraction(double value) const {
     // Values on the other side of zero sit at the end the scale starts from.
     if (!(ratio > 0)) return factor < 0 ? 1 : 0;
     return std::log(ratio) * factor;
+}
+
+double ScaleMapping::fromFraction(double fraction) const {
+    if (factor == 0) return kNoValue;
+    if (!log) return origin + fraction / factor;
+    return origin * std::exp(fraction / factor);
 }

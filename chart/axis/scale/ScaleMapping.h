@@ -11,6 +11,8 @@ public:
     void setLog(double lower, double upper);
 
     double toFraction(double value) const;
+    // The value at a fraction; kNoValue when the mapping has no extent.
+    double fromFraction(double fraction) const;
 
     bool isLog() const { return log; }
     double getLower() const { return lower; }

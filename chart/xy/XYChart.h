@@ -1,0 +1,70 @@
+#pragma once
+
+#include "chart/base/BaseChart.h"
+
+class Axis;
+class Layer;
+class PlotArea;
+
+// A chart with a rectangular plot area, four standard axes (bottom, top, left
+// and right) and any number of added ones, and a list of layers that draw the
+// data.  Which standard axis is the x axis and which the y axis follows
+// swapXY, setXAxisOnTop and setYAxisOnRight at each use.
+class XYChart : public virtual BaseChart {
+public:
+    static XYChart *create(int width, int height, int bgColor, int edgeColor, int raisedEffect);
+
+    // An axis on a side (kBottom, kLeft, kRight, kTop; null for any other),
+    // standing offset pixels out from the plot.
+    virtual Axis *addAxis(int alignment, int offset) = 0;
+    virtual Axis *yAxis() = 0;
+    virtual Axis *yAxis2() = 0;
+    // The second y axis follows the first: its value = slope * y + intercept.
+    virtual void syncYAxis(double slope, double intercept) = 0;
+    virtual void setYAxisOnRight(bool onRight) = 0;
+    virtual Axis *xAxis() = 0;
+    virtual Axis *xAxis2() = 0;
+    virtual void setXAxisOnTop(bool onTop) = 0;
+    // The x axis runs up the side and the y axis along the bottom.
+    virtual void swapXY(bool swap) = 0;
+    // kXAxisAtOrigin 1, kYAxisAtOrigin 2, kXYAxisAtOrigin 3: the axis stands at
+    // the other axis's 0.  symmetryMode, of kXAxisSymmetric 1,
+    // kXAxisSymmetricIfNeeded 2, kYAxisSymmetric 4, kYAxisSymmetricIfNeeded 8,
+    // kXYAxisSymmetric 16, kXYAxisSymmetricIfNeeded 32, centres scales on 0.
+    virtual void setAxisAtOrigin(int originMode, int symmetryMode) = 0;
+
+    // Canvas pixels of values, and values of pixels; the y axis is the chart's
+    // own when null.  They read the layout: see layoutAxes.
+    virtual double getXCoor(double value) = 0;
+    virtual double getYCoor(double value, Axis *yAxis) = 0;
+    virtual double getXValue(double coor) = 0;
+    virtual double getYValue(double coor, Axis *yAxis) = 0;
+    // Colours that change at a value of the x or y axis.
+    virtual int xZoneColor(double threshold, int belowColor, int aboveColor) = 0;
+    virtual int yZoneColor(double threshold, int belowColor, int aboveColor, Axis *yAxis) = 0;
+
+    virtual PlotArea *setPlotArea(int x, int y, int width, int height, int bgColor, int altBgColor,
+                                  int edgeColor, int hGridColor, int vGridColor) = 0;
+    virtual PlotArea *getPlotArea() = 0;
+    // Layers draw only within the plot enlarged by the margin.
+    virtual void setClipping(int margin) = 0;
+    // The window of data indices the layers draw.
+    virtual void setTrimData(int startPos, int len) = 0;
+
+    // Layers in the order of adding; by z, 0 is the bottom one.  Null out of range.
+    virtual Layer *getLayer(int i) = 0;
+    virtual Layer *getLayerByZ(int i) = 0;
+    virtual int getLayerCount() = 0;
+    virtual double getNearestXValue(double xCoor) = 0;
+
+    // Lays the axes out now, so that coordinates can be asked before output;
+    // setPlotArea after it lays them out again.
+    virtual void layoutAxes() = 0;
+    // Fits the plot in the box so that the axes with their labels and titles
+    // just fit; the box grows where they need more than it has.
+    virtual void packPlotArea(int leftX, int topY, int rightX, int bottomY, int minWidth,
+                              int minHeight) = 0;
+
+protected:
+    ~XYChart() override {}
+};

@@ -1,0 +1,145 @@
+#include "chart/xy/XYChartImpl.h"
+
+#include "chart/axis/AxisImpl.h"
+#include "chart/xy/PlotLayer.h"
+#include "draw/pixel/ColorWords.h"
+#include "foundation/Constants.h"
+
+namespace {
+
+const int kPlotAreaProperty = 0x200;
+// BaseChartImpl::paint leaves objects above this z order for after the legend.
+const int kLastPlotObjectZ = 0xFFFE;
+
+}  // namespace
+
+XYChart *XYChart::create(int width, int height, int bgColor, int edgeColor, int raisedEffect) {
+    XYChartImpl *chart = new XYChartImpl();
+    chart->initChart(width, height, bgColor, edgeColor, raisedEffect);
+    return chart;
+}
+
+XYChartImpl::XYChartImpl() : plotArea(this, getRawDrawArea(), getFormatter(), getExtraFields()) {}
+
+Axis *XYChartImpl::addAxis(int alignment, int offset) {
+    return plotArea.addAxis(alignment, offset);
+}
+
+Axis *XYChartImpl::yAxis() {
+    return plotArea.yAxis();
+}
+
+Axis *XYChartImpl::yAxis2() {
+    return plotArea.yAxis2();
+}
+
+Axis *XYChartImpl::xAxis() {
+    return plotArea.xAxis();
+}
+
+Axis *XYChartImpl::xAxis2() {
+    return plotArea.xAxis2();
+}
+
+void XYChartImpl::syncYAxis(double slope, double intercept) {
+    plotArea.yAxis2()->syncAxis(plotArea.yAxis(), slope, intercept);
+}
+
+void XYChartImpl::setAxisAtOrigin(int originMode, int symmetryMode) {
+    plotArea.setAxisAtOrigin(originMode, symmetryMode);
+}
+
+AxisImpl *XYChartImpl::yAxisOrDefault(Axis *axis) {
+    return axis ? AxisImpl::of(axis) : plotArea.yAxis();
+}
+
+double XYChartImpl::getXCoor(double value) {
+    return plotArea.pixelOf(plotArea.xAxis(), value);
+}
+
+double XYChartImpl::getYCoor(double value, Axis *axis) {
+    return plotArea.pixelOf(yAxisOrDefault(axis), value);
+}
+
+double XYChartImpl::getXValue(double coor) {
+    return plotArea.valueAt(plotArea.xAxis(), coor);
+}
+
+double XYChartImpl::getYValue(double coor, Axis *axis) {
+    return plotArea.valueAt(yAxisOrDefault(axis), coor);
+}
+
+int XYChartImpl::xZoneColor(double threshold, int belowColor, int aboveColor) {
+    return plotArea.zoneColor(plotArea.xAxis(), threshold, belowColor, aboveColor);
+}
+
+int XYChartImpl::yZoneColor(double threshold, int belowColor, int aboveColor, Axis *axis) {
+    return plotArea.zoneColor(yAxisOrDefault(axis), threshold, belowColor, aboveColor);
+}
+
+PlotArea *XYChartImpl::setPlotArea(int x, int y, int width, int height, int bgColor, int altBgColor,
+                                   int edgeColor, int hGridColor, int vGridColor) {
+    plotArea.setPlotRect(x, y, width, height);
+    plotArea.setBackground(bgColor, altBgColor, edgeColor);
+    plotArea.setGridColor(hGridColor, vGridColor, -1, -1);
+    return &plotArea;
+}
+
+void XYChartImpl::packPlotArea(int leftX, int topY, int rightX, int bottomY, int minWidth,
+                               int minHeight) {
+    plotArea.packPlotArea(leftX, topY, rightX, bottomY, minWidth, minHeight);
+}
+
+Layer *XYChartImpl::getLayer(int i) {
+    PlotLayer *layer = plotArea.getLayer(i);
+    return layer ? layer->getLayer() : nullptr;
+}
+
+// The last layer added paints first, so it is the bottom one.
+Layer *XYChartImpl::getLayerByZ(int i) {
+    return getLayer(plotArea.getLayerCount() - 1 - i);
+}
+
+double XYChartImpl::getProperty(int code) {
+    if ((code & ~0xFF) != kPlotAreaProperty) return BaseChartImpl::getProperty(code);
+    switch (code & 0xFF) {
+        case kLeft:
+            return plotArea.getLeftX();
+        case kTop:
+            return plotArea.getTopY();
+        case kRight:
+            return plotArea.getRightX();
+        case kBottom:
+            return plotArea.getBottomY();
+        default:
+            return 0;
+    }
+}
+
+void XYChartImpl::onLayoutLegend() {
+    plotArea.layoutLegend();
+}
+
+void XYChartImpl::onLayoutChart() {
+    plotArea.prepareLayers();
+    if (!plotArea.isPlotRectSet()) {
+        int left, top, right, bottom;
+        getFreeArea(&left, &top, &right, &bottom);
+        plotArea.packPlotArea(left + kAutoPlotMargin, top + kAutoPlotMargin,
+                              right - kAutoPlotMargin, bottom - kAutoPlotMargin, 0, 0);
+    } else if (!plotArea.areAxesLaidOut()) {
+        plotArea.layoutAxes();
+    }
+    plotArea.layoutLayers();
+}
+
+void XYChartImpl::onPaint() {
+    plotArea.paintBackdrop();
+    paintObjects(kLastPlotObjectZ);
+    plotArea.paintLayers();
+    plotArea.paintFront();
+}
+
+const char *XYChartImpl::onGetHTMLImageMap(const char *, const char *, const char *, int, int) {
+    return nullptr;
+}
