@@ -89,6 +89,9 @@ bool circleLabels(const std::string &path) {
     c->sector(0)->setLabelLayout(kCircleLayout, -50);
     c->sector(0)->setLabelStyle("bold", 11, 0xFFFFFF);
     c->sector(7)->setLabelFormat(" ");
+    // An icon in a label's mark-up.
+    c->sector(1)->setLabelFormat(
+        "<*img=@star(5),size=13,color=FFC914,edgecolor=806000*> {label}: {value|0}");
     return save(c, path);
 }
 
@@ -141,6 +144,18 @@ bool shadow3D(const std::string &path) {
     return save(c, path);
 }
 
+bool donut3D(const std::string &path) {
+    const int glass[] = {0x40E4572E, 0x404A90D9, 0x4076B041, 0x40FFC914, 0x409966FF, 0x4033AAAA};
+    PieChart *c = salesPie(520, 380, "Translucent 3D donut, a group of two exploded", 6);
+    c->setDonutSize(260, 180, 150, 70);
+    c->set3D(40, 60, false);
+    c->setColors2(kDataColor & 0xFFFF, IntArray(glass, 6));
+    c->setExplodeGroup(4, 5, 20);
+    c->setLabelFormat("{label}");
+    c->setLabelPos(-40, -1);
+    return save(c, path);
+}
+
 }  // namespace
 
 VISTREL_GALLERY_SAMPLE("Pie charts", "W3: the reference pie, as timed", "pie_w3.png", workloadW3);
@@ -151,12 +166,15 @@ VISTREL_GALLERY_SAMPLE("Pie charts", "A tilted 3D pie with an exploded sector", 
 VISTREL_GALLERY_SAMPLE("Pie charts",
                        "Side labels in two columns with join lines; tiny sectors spread",
                        "pie_side_labels.png", sideLabels);
-VISTREL_GALLERY_SAMPLE("Pie charts",
-                       "Circular labels, anti-clockwise; one label inside, one left out",
-                       "pie_circle_labels.png", circleLabels);
+VISTREL_GALLERY_SAMPLE(
+    "Pie charts",
+    "Circular labels, anti-clockwise; one label inside, one with an icon, one left out",
+    "pie_circle_labels.png", circleLabels);
 VISTREL_GALLERY_SAMPLE("Pie charts", "Labels inside the sectors and a legend", "pie_legend.png",
                        withLegend);
 VISTREL_GALLERY_SAMPLE("Pie charts", "Lighting of sector tops: the nine shading methods",
                        "pie_shadings.png", shadings);
 VISTREL_GALLERY_SAMPLE("Pie charts", "A round 3D pie whose sectors have depths of their own",
                        "pie_depths.png", shadow3D);
+VISTREL_GALLERY_SAMPLE("Pie charts", "A translucent 3D donut: the back walls show through",
+                       "pie_3d_donut.png", donut3D);

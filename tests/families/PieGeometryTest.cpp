@@ -125,7 +125,7 @@ TEST(PieGeometry, SharesCountSizesAndZerosShareEqually) {
     // No data: nothing drawn, no map.
     OwnedPie empty(100, 100);
     empty->setPieSize(50, 50, 30);
-    EXPECT_EQ(listingOf(empty->makeChart()).size(), 1u);
+    EXPECT_EQ(listingLines(empty->makeChart()).size(), 1u);
     EXPECT_EQ(std::string(empty->getHTMLImageMap("p.html", "", "", 0, 0)), "");
     EXPECT_EQ(empty->sector(0), nullptr);
 }

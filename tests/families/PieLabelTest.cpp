@@ -54,9 +54,9 @@ TEST(PieLabels, ABlankLabelDrawsNeitherLabelNorJoinLine) {
     pie->setLabelPos(20, 0x000000);
     pie->setLabelFormat("{label}");
     pie->sector(1)->setLabelFormat(" ");
-    std::vector<std::string> lines = listingOf(pie->makeChart());
-    EXPECT_EQ(countStarting(lines, "Text("), 2);
-    EXPECT_EQ(countStarting(lines, "PolyLine(0x000000"), 2);
+    std::vector<std::string> lines = listingLines(pie->makeChart());
+    EXPECT_EQ(countLinesStarting(lines, "Text("), 2);
+    EXPECT_EQ(countLinesStarting(lines, "PolyLine(0x000000"), 2);
     EXPECT_EQ(std::string(pie->sector(1)->getLabelCoor(0, 0)), "");
     EXPECT_TRUE(rectOf(pie->sector(0)->getLabelCoor(0, 0)).found);
     // Circle labels have no join line unless given a colour; an invisible font hides a label.
@@ -64,9 +64,9 @@ TEST(PieLabels, ABlankLabelDrawsNeitherLabelNorJoinLine) {
     plain.setData({3, 2, 1});
     plain->setPieSize(150, 150, 80);
     plain->sector(2)->setLabelStyle("", 8, kTransparent);
-    lines = listingOf(plain->makeChart());
-    EXPECT_EQ(countStarting(lines, "PolyLine("), 0);
-    EXPECT_EQ(countStarting(lines, "Text("), 4);
+    lines = listingLines(plain->makeChart());
+    EXPECT_EQ(countLinesStarting(lines, "PolyLine("), 0);
+    EXPECT_EQ(countLinesStarting(lines, "Text("), 4);
 }
 
 TEST(PieLabels, CircleLabelsStandBeyondTheRimByTheirOctant) {
@@ -176,7 +176,7 @@ TEST(PieLegend, EachSectorAddsAKeyWithItsAttributes) {
     OwnedPie bare(400, 300);
     bare.setData({30, 70});
     bare->makeChart();
-    EXPECT_EQ(countStarting(listingOf(bare->makeChart()), "Text("), 4);
+    EXPECT_EQ(countLinesStarting(listingLines(bare->makeChart()), "Text("), 4);
 }
 
 TEST(PieImageMap, SectorsAndLabelsGetHotSpots) {

@@ -77,10 +77,10 @@ TEST_F(Surfaces, FarWallsPaintFirstAndTopsLast) {
     // The walls along 12 o'clock are the farthest.
     EXPECT_NEAR(surfaces.at(7)->getZ(), kPi, 1e-12);
     // Painted as one piece, so that neighbours share their edges without seams.
-    std::vector<std::string> lines = listingOf(canvas);
+    std::vector<std::string> lines = listingLines(canvas);
     auto begin = std::find(lines.begin(), lines.end(), "BeginSuperPixelMode()");
     ASSERT_NE(begin, lines.end());
-    EXPECT_EQ(countStarting(std::vector<std::string>(lines.begin(), begin), "Shape("), 0);
+    EXPECT_EQ(countLinesStarting(std::vector<std::string>(lines.begin(), begin), "Shape("), 0);
     EXPECT_EQ(lines.back(), "CommitSuperPixels()");
 }
 
@@ -89,8 +89,8 @@ TEST(PieSurfaceListing, ASingleSectorIsOneDiscAndOneWall) {
     flat.setData({0, 7, kNoValue});
     flat->setPieSize(150, 150, 80);
     flat->setLabelFormat(" ");
-    std::vector<std::string> lines = listingOf(flat->makeChart());
-    ASSERT_EQ(countStarting(lines, "Shape("), 1);
+    std::vector<std::string> lines = listingLines(flat->makeChart());
+    ASSERT_EQ(countLinesStarting(lines, "Shape("), 1);
     // A closed circle: arcs only, no line to the centre that could show as a seam.
     for (const std::string &l : lines) {
         if (l.rfind("Shape(", 0) == 0) {
@@ -103,9 +103,9 @@ TEST(PieSurfaceListing, ASingleSectorIsOneDiscAndOneWall) {
     deep->setPieSize(150, 150, 80);
     deep->set3D(20, 60, false);
     deep->setLabelFormat(" ");
-    lines = listingOf(deep->makeChart());
-    EXPECT_EQ(countStarting(lines, "Shape("), 2);
-    EXPECT_EQ(countStarting(lines, "Polygon("), 0);
+    lines = listingLines(deep->makeChart());
+    EXPECT_EQ(countLinesStarting(lines, "Shape("), 2);
+    EXPECT_EQ(countLinesStarting(lines, "Polygon("), 0);
 }
 
 TEST(PieShading, TheTableSetsStopsAndTheInnerRatio) {

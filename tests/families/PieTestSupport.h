@@ -11,6 +11,7 @@
 #include "families/pie/PieChart.h"
 #include "families/pie/Sector.h"
 #include "families/pie/SectorImpl.h"
+#include "tests/chart/ChartTestSupport.h"
 
 // A pie chart destroyed at the end of the test.
 class OwnedPie {
@@ -67,23 +68,4 @@ inline std::vector<int> polyOf(const char *coords) {
         p = *end == ',' ? end + 1 : end;
     }
     return v;
-}
-
-inline std::vector<std::string> listingOf(DrawArea *d) {
-    MemBlock block = d->outAGF2();
-    std::string text(block.data ? block.data : "", block.len);
-    std::vector<std::string> lines;
-    for (size_t start = 0; start < text.size();) {
-        size_t end = text.find('\n', start);
-        if (end == std::string::npos) end = text.size();
-        lines.push_back(text.substr(start, end - start));
-        start = end + 1;
-    }
-    return lines;
-}
-
-inline int countStarting(const std::vector<std::string> &lines, const std::string &start) {
-    int n = 0;
-    for (const std::string &l : lines) n += l.rfind(start, 0) == 0;
-    return n;
 }
