@@ -13,7 +13,7 @@
 #include "draw/canvas/DrawArea.h"
 #include "draw/pixel/ColorWords.h"
 #include "foundation/Constants.h"
-#include "fuzz/FuzzTexts.h"
+#include "fuzz/ChartFuzz.h"
 #include "text/box/TextBox.h"
 #include "text/box/VSMLTable.h"
 
@@ -23,17 +23,13 @@ const size_t kControl = 12;
 const size_t kMaxTexts = 24;
 const size_t kMaxText = 300;
 
-void checkBounded(const char *s, size_t limit) {
-    if (!s || strnlen(s, limit + 1) > limit) abort();
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     if (size < kControl || size > 8192) return 0;
     const uint8_t *c = data;
     std::vector<std::string> texts =
-        splitFuzzTexts(data + kControl, size - kControl, kMaxTexts, kMaxText);
+        splitTexts(data + kControl, size - kControl, kMaxTexts, kMaxText);
     MultiChart *chart = MultiChart::create(c[0] % 240 + 1, c[1] % 180 + 1, 0xF0F0F0 ^ c[2],
                                            c[3] & 1 ? 0x000000 : kTransparent, (int8_t)c[4]);
     chart->setRoundedFrame(0xFFFFFF, c[5] % 60 - 8, c[6] & 1 ? -1 : c[6] % 30, -1, c[7] % 20);

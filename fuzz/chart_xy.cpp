@@ -15,7 +15,7 @@
 #include "draw/pixel/ColorWords.h"
 #include "foundation/ArrayViews.h"
 #include "foundation/Constants.h"
-#include "fuzz/FuzzTexts.h"
+#include "fuzz/ChartFuzz.h"
 #include "text/box/TextBox.h"
 
 namespace {
@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     if (size < kControl || size > 8192) return 0;
     const uint8_t *c = data;
     std::vector<std::string> texts =
-        splitFuzzTexts(data + kControl, size - kControl, kMaxTexts, kMaxText);
+        splitTexts(data + kControl, size - kControl, kMaxTexts, kMaxText);
     XYChart *chart = XYChart::create(c[0] % 400 + 1, c[1] % 300 + 1, 0xFFFFFF, kTransparent, 0);
     chart->swapXY(c[2] & 1);
     chart->setXAxisOnTop(c[2] & 2);

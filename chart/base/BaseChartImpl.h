@@ -152,6 +152,8 @@ protected:
     // The chart's area that the titles on its sides leave, as inclusive
     // left, top, right, bottom; lays the titles out.
     void getFreeArea(int *left, int *top, int *right, int *bottom);
+    // The legend if the application asked for one; null otherwise.
+    LegendBoxImpl *existingLegend() const { return legend; }
     // The chart-level {fieldN} columns.
     ExtraFields *getExtraFields() { return &extraFields; }
     // Keeps text for the caller until the next such call.
