@@ -14,8 +14,10 @@
 #include "draw/canvas/TextAntiAlias.h"
 #include "draw/codec/ImageEncoder.h"
 #include "draw/list/MetaDraw.h"
+#include "draw/pdf/DrawPDF.h"
 #include "draw/pixel/ColorWords.h"
 #include "draw/raster/DrawBMP.h"
+#include "draw/svg/DrawSVG.h"
 #include "foundation/Codec.h"
 #include "foundation/Constants.h"
 #include "foundation/Unicode.h"
@@ -1045,9 +1047,28 @@ bool DrawAreaImpl::writeVector(qlx::ostream &out, int imageType, const char *opt
     return ok;
 }
 
-bool DrawAreaImpl::playVector(int, qlx::ostream &) {
-    // No vector back end is built yet: SVG and PDF output fail.
-    return false;
+bool DrawAreaImpl::playVector(int imageType, qlx::ostream &out) {
+    MetaDraw *list = metaDraw;
+    MetaDraw *picture = nullptr;
+    if (metaDraw->getOption("bitmap")) {
+        // The raster as one picture, in a list that reads this list's options.
+        DrawBMP *raster = getRaster();
+        if (!raster || !raster->getPixels()) return false;
+        int w = raster->getWidth(), h = raster->getHeight();
+        picture = MetaDraw::create(nullptr);
+        picture->setOptionParent(metaDraw);
+        picture->setSize(w, h, kTransparent);
+        picture->mergeBitMap(raster->getPixels(), w * h, w, 0, 0);
+        list = picture;
+    }
+    VectorBackEnd *document = imageType == kSVG
+                                  ? static_cast<VectorBackEnd *>(DrawSVG::create(list))
+                                  : DrawPDF::create(list);
+    list->playAll(document);
+    bool ok = document->write(out);
+    delete document;
+    if (picture) picture->destroyList();
+    return ok;
 }
 
 bool DrawAreaImpl::writeSVGStream(qlx::ostream &out, const char *options) {
