@@ -6,11 +6,6 @@
 
 #include "examples/gallery/Gallery.h"
 
-std::vector<GallerySample> &gallerySamples() {
-    static std::vector<GallerySample> samples;
-    return samples;
-}
-
 static std::string htmlEscape(const char *s) {
     std::string out;
     for (; *s; ++s) {
