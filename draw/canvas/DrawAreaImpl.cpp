@@ -277,7 +277,22 @@ void DrawAreaImpl::shearTransform(double xShear, double yShear, int bgColor, int
 void DrawAreaImpl::warp(ImageOps::ImageWarp::Kind kind, int bgColor, double period,
                         double amplitude, double phase) {
     ImageOps::ImageWarp w = {kind, getARGBColor(bgColor), period, amplitude, phase};
-    if (DrawBMP *raster = getRaster()) raster->replaceImage(ImageOps::warp(raster->copyImage(), w));
+    DrawBMP *raster = getRaster();
+    if (!raster) return;
+    PixelBuffer warped = ImageOps::warp(raster->copyImage(), w);
+    // No record draws a warp: the warped picture goes into the list as an
+    // image, so that the vector outputs show it too.
+    qlx::ostrstream png;
+    char *block = nullptr;
+    if (ImageEncoder::encodePNG(png, warped.pixels.data(), warped.width, warped.height))
+        block = static_cast<char *>(malloc(png.tell()));
+    if (!block) {
+        raster->replaceImage(warped);
+        return;
+    }
+    memcpy(block, png.str(), png.tell());
+    metaDraw->loadStream(block, png.tell(), kPNG, warped.width, warped.height);
+    resetClip();
 }
 
 void DrawAreaImpl::waveTransform(double period, double amplitude, double phase, int bgColor) {

@@ -359,8 +359,14 @@ std::string DrawSVGImpl::pathData(const VectorPath &path) const {
 
 std::string DrawSVGImpl::pointsOf(const VectorPath &path) const {
     std::string points;
-    for (const PathSegment &s : path.segments()) {
+    const std::vector<PathSegment> &steps = path.segments();
+    for (size_t i = 0; i < steps.size(); ++i) {
+        const PathSegment &s = steps[i];
         if (s.kind == PathSegment::kClose) continue;
+        // A polygon closes itself: its first point isn't written again.
+        bool closing =
+            path.form == VectorPath::kPolygon && i > 0 && s.x == steps[0].x && s.y == steps[0].y;
+        if (closing) continue;
         if (!points.empty()) points += ' ';
         NumberText::append(points, s.x, decimals);
         points += ',';

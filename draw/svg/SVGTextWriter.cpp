@@ -24,14 +24,12 @@ bool isRotation(const double m[4]) {
 
 std::string SVGTextWriter::styleOf(const GlyphFont &font) {
     std::string s = "font-family:'";
+    // The name sits in single quotes inside an attribute in double quotes.
     std::string name;
     SVGElement::appendEscaped(name, font.familyName ? font.familyName : "");
-    for (char c : name) {
-        if (c == '\'')
-            s += "\\'";
-        else
-            s += c;
-    }
+    for (size_t at = name.find("&#39;"); at != std::string::npos; at = name.find("&#39;", at))
+        name.replace(at, 5, "\\'");
+    s += name;
     s += "';font-size:";
     NumberText::appendInt(s, font.pixelSize);
     s += "px";
