@@ -27,12 +27,8 @@ PDFBrush *PDFBrush::create(const VectorPaint &paint, const VectorBox &cover) {
 }
 
 std::string PDFBrush::matrixEntry(const Affine &m) {
-    static const int kOrder[6] = {0, 2, 1, 3, 4, 5};
     std::string s = "/Matrix[";
-    for (int i = 0; i < 6; ++i) {
-        if (i) s += ' ';
-        NumberText::append(s, m.m[kOrder[i]], kMatrixDecimals);
-    }
+    NumberText::appendMatrix(s, m, kMatrixDecimals);
     return s + "]";
 }
 

@@ -43,12 +43,6 @@ PDFContent &PDFContent::num(double v) {
     return *this;
 }
 
-PDFContent &PDFContent::fine(double v) {
-    NumberText::append(out, v, kMatrixDecimals);
-    out += ' ';
-    return *this;
-}
-
 PDFContent &PDFContent::integer(long long v) {
     NumberText::appendInt(out, v);
     out += ' ';
@@ -71,9 +65,13 @@ void PDFContent::restore() {
 }
 
 void PDFContent::concat(const Affine &m) {
-    // PDF's order: a b c d e f of x' = a x + c y + e, y' = b x + d y + f.
-    fine(m.m[0]).fine(m.m[2]).fine(m.m[1]).fine(m.m[3]).fine(m.m[4]).fine(m.m[5]);
-    out += "cm\n";
+    NumberText::appendMatrix(out, m, kMatrixDecimals);
+    out += " cm\n";
+}
+
+void PDFContent::textMatrix(const Affine &m) {
+    NumberText::appendMatrix(out, m, kMatrixDecimals);
+    out += " Tm\n";
 }
 
 void PDFContent::path(const VectorPath &p) {

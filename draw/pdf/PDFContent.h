@@ -23,13 +23,13 @@ public:
     }
     // A coordinate (a thousandth of a pixel) and a blank.
     PDFContent &num(double v);
-    // A number with the digits of a matrix entry, and a blank.
-    PDFContent &fine(double v);
     PDFContent &integer(long long v);
 
     void save();
     void restore();
     void concat(const Affine &m);
+    // The text matrix: from text space to the current space.
+    void textMatrix(const Affine &m);
     void path(const VectorPath &p);
     void rect(const VectorBox &b);
 

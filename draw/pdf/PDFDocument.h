@@ -13,7 +13,7 @@ class ostream;
 // Flate when that makes them shorter.
 class PDFDocument {
 public:
-    static const int kResources = 1;
+    static constexpr int kResources = 1;
 
     PDFDocument();
     // A new object id; the object is empty until set.

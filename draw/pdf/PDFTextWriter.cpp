@@ -42,7 +42,7 @@ void PDFTextWriter::writeStretch(const GlyphText &text, const GlyphRun &run, int
     double f = text.originY + m[2] * g0.x + m[3] * g0.y;
     content.raw("BT\n" + fontName + " ");
     content.num(size).raw("Tf\n");
-    content.fine(a).fine(b).fine(c).fine(d).num(e).num(f).raw("Tm\n");
+    content.textMatrix(Affine(a, c, b, d, e, f));
     bool hex = font.isHex();
     std::string array = hex ? "[<" : "[(";
     for (int i = first; i < end; ++i) {

@@ -504,22 +504,9 @@ void DrawBMPImpl::strokeWide(const double *xy, int pointCount, int color, int li
 }
 
 void DrawBMPImpl::multiLine(const MetaLineEntry *items, int count) {
-    std::vector<double> run;
     int color = curColor, lineWidth = curWidth;
-    auto flush = [&]() {
-        if (run.size() >= 4) polyLine(color, lineWidth, DoubleArray(run.data(), (int)run.size()));
-        if (run.size() >= 2) run.erase(run.begin(), run.end() - 2);
-    };
-    for (int i = 0; items && i < count; ++i) {
-        if (items[i].isStyle) {
-            flush();
-            color = items[i].color, lineWidth = items[i].width;
-            continue;
-        }
-        run.push_back(items[i].x);
-        run.push_back(items[i].y);
-    }
-    flush();
+    forEachLineRun(items, count, color, lineWidth,
+                   [&](int c, int w, DoubleArray xy) { polyLine(c, w, xy); });
     curColor = color, curWidth = lineWidth;
 }
 

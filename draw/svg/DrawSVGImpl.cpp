@@ -31,7 +31,7 @@ DrawSVG *DrawSVG::create(MetaDraw *list) {
 }
 
 DrawSVGImpl::DrawSVGImpl(MetaDraw *options)
-    : options(options), decimals(kDefaultDecimals), played(false), bodies(1), nextId(0) {
+    : options(options), decimals(kDefaultDecimals), bodies(1), nextId(0) {
     // "precisetext" with a number asks for that many digits after the point.
     double digits = options ? options->getOptionNumber("precisetext", 0) : 0;
     if (digits >= 1) decimals = (int)std::min(digits, (double)NumberText::kMaxDecimals);
@@ -92,7 +92,6 @@ bool DrawSVGImpl::write(qlx::ostream &out) {
 // ---- Surfaces
 
 void DrawSVGImpl::startSurface(int, int) {
-    played = true;
     body().clear();
     bodies.back().clipOpen = false;
 }
@@ -133,12 +132,8 @@ void DrawSVGImpl::clipSurface(const VectorBox *clip) {
 }
 
 std::string DrawSVGImpl::matrixText(const Affine &map) const {
-    static const int kOrder[6] = {0, 2, 1, 3, 4, 5};
     std::string v = "matrix(";
-    for (int i = 0; i < 6; ++i) {
-        if (i) v += ' ';
-        NumberText::append(v, map.m[kOrder[i]], kTransformDecimals);
-    }
+    NumberText::appendMatrix(v, map, kTransformDecimals);
     return v + ")";
 }
 

@@ -60,7 +60,6 @@ private:
 
     MetaDraw *options;
     int decimals;
-    bool played;
     std::vector<Body> bodies;
     std::string defs;
     int nextId;

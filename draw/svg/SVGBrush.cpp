@@ -42,12 +42,7 @@ void SVGBrush::writeStops(std::string &defs) const {
 void SVGBrush::writeTransform(SVGElement &e, const char *name, const Affine &map) const {
     if (map.isIdentity()) return;
     std::string v = "matrix(";
-    for (int i = 0; i < 6; ++i) {
-        // SVG's order is a, b, c, d, e, f of x' = a x + c y + e, y' = b x + d y + f.
-        static const int kOrder[6] = {0, 2, 1, 3, 4, 5};
-        if (i) v += ' ';
-        NumberText::append(v, map.m[kOrder[i]], kTransformDecimals);
-    }
+    NumberText::appendMatrix(v, map, kTransformDecimals);
     v += ')';
     e.raw(name, v);
 }

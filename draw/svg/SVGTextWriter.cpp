@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "draw/svg/SVGElement.h"
+#include "draw/vector/Affine.h"
 #include "draw/vector/GlyphStretches.h"
 #include "draw/vector/NumberText.h"
 
@@ -53,15 +54,10 @@ std::string SVGTextWriter::transformOf(const GlyphText &text, double widthScale)
         v += ')';
         return v;
     }
-    const double a[6] = {m[0] * widthScale,    m[2] * widthScale,   m[1], m[3],
-                         (double)text.originX, (double)text.originY};
+    Affine frame(m[0] * widthScale, m[1], m[2] * widthScale, m[3], text.originX, text.originY);
     v = "matrix(";
-    for (int i = 0; i < 6; ++i) {
-        if (i) v += ' ';
-        NumberText::append(v, a[i], kTransformDecimals);
-    }
-    v += ')';
-    return v;
+    NumberText::appendMatrix(v, frame, kTransformDecimals);
+    return v + ")";
 }
 
 void SVGTextWriter::write(const GlyphText &text, const GlyphRun &run) {

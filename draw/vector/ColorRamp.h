@@ -14,7 +14,7 @@ struct GradientStop {
 class ColorRamp {
 public:
     // Entries beyond this are not needed by any output: a finer ramp is cut.
-    static const int kMaxEntries = 4096;
+    static constexpr int kMaxEntries = 4096;
 
     ColorRamp() {}
     // Gradient pairs (position, colour) as the raster's gradient brushes build them.

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "draw/vector/Affine.h"
 #include "foundation/CLocale.h"
 
 namespace {
@@ -88,4 +89,13 @@ int NumberText::formatInt(char *buf, long long v) {
     while (count > 0) *p++ = digits[--count];
     *p = 0;
     return (int)(p - buf);
+}
+
+void NumberText::appendMatrix(std::string &out, const Affine &map, int decimals) {
+    // Affine holds the map row by row: a, c, e then b, d, f in the order above.
+    static const int kOrder[6] = {0, 2, 1, 3, 4, 5};
+    for (int i = 0; i < 6; ++i) {
+        if (i) out += ' ';
+        append(out, map.m[kOrder[i]], decimals);
+    }
 }

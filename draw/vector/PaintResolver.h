@@ -22,9 +22,9 @@ class BrushSampler;
 class PaintResolver {
 public:
     // Nesting beyond this resolves to nothing, as on the raster.
-    static const int kMaxDepth = 20;
+    static constexpr int kMaxDepth = 20;
     // Sampled images larger than this many pixels are cut to it.
-    static const int kMaxSampledPixels = 1 << 24;
+    static constexpr int kMaxSampledPixels = 1 << 24;
 
     explicit PaintResolver(BrushSampler *sampler);
     ~PaintResolver();

@@ -128,13 +128,17 @@ void VectorBackEnd::initDynamicLayer() {}
 
 // ---- Size, clip and the whole picture
 
-void VectorBackEnd::setSize(int width, int height, int bgColor) {
+void VectorBackEnd::startFresh(int width, int height) {
     flushTriangles();
     width = std::max(width, 1), height = std::max(height, 1);
     if ((long long)width * height > kMaxPixels) width = height = 1;
     Surface &s = surface();
     s.width = width, s.height = height, s.clipped = false;
     startSurface(width, height);
+}
+
+void VectorBackEnd::setSize(int width, int height, int bgColor) {
+    startFresh(width, height);
     setBgColor(bgColor);
 }
 
@@ -158,8 +162,9 @@ void VectorBackEnd::setClipRect(int left, int top, int right, int bottom) {
 void VectorBackEnd::setBgColor(int color) {
     flushTriangles();
     const Surface &s = surface();
-    VectorPath box = VectorPath::rect(s.clipped ? s.clip : surfaceBox(), 0);
-    paintPath(box, color, kTransparent, StrokeStyle());
+    VectorBox region = s.clipped ? s.clip : surfaceBox();
+    if (region.isEmpty()) return;
+    paintPath(VectorPath::rect(region, 0), color, kTransparent, StrokeStyle());
 }
 
 void VectorBackEnd::wrap(SurfaceWrap &w) {
@@ -189,9 +194,7 @@ void VectorBackEnd::affineTransform(double a, double b, double c, double d, doub
                      .after(Affine::translation(-kCentre, -kCentre));
     int bg = ColorWord::isDynamicHandle(bgColor) ? kTransparent : bgColor;
     if (!map.isFinite() || std::fabs(map.determinant()) < 1e-12) {
-        startSurface(surfaceWidth(), surfaceHeight());
-        surface().clipped = false;
-        setBgColor(bg);
+        setSize(surfaceWidth(), surfaceHeight(), bg);
         return;
     }
     SurfaceWrap w;
@@ -289,22 +292,9 @@ void VectorBackEnd::polyLine(int color, int width, DoubleArray points) {
 }
 
 void VectorBackEnd::multiLine(const MetaLineEntry *items, int count) {
-    std::vector<double> run;
     int color = surface().lineColor, width = surface().lineWidth;
-    auto flush = [&]() {
-        if (run.size() >= 4) polyLine(color, width, DoubleArray(run.data(), (int)run.size()));
-        if (run.size() >= 2) run.erase(run.begin(), run.end() - 2);
-    };
-    for (int i = 0; items && i < count; ++i) {
-        if (items[i].isStyle) {
-            flush();
-            color = items[i].color, width = items[i].width;
-            continue;
-        }
-        run.push_back(items[i].x);
-        run.push_back(items[i].y);
-    }
-    flush();
+    forEachLineRun(items, count, color, width,
+                   [&](int c, int w, DoubleArray xy) { polyLine(c, w, xy); });
     surface().lineColor = color, surface().lineWidth = width;
 }
 
@@ -574,11 +564,7 @@ void VectorBackEnd::mergeBitMap(int id, IntArray pixels, int width, int x, int y
 
 void VectorBackEnd::loadStream(int id, const char *data, int length, int imageType, int width,
                                int height) {
-    flushTriangles();
-    width = std::max(width, 1), height = std::max(height, 1);
-    if ((long long)width * height > kMaxPixels) width = height = 1;
-    Surface &s = surface();
-    s.width = width, s.height = height, s.clipped = false;
-    startSurface(width, height);
-    if (data && length > 0) writeEncodedImage(id, data, length, imageType, width, height);
+    startFresh(width, height);
+    if (data && length > 0)
+        writeEncodedImage(id, data, length, imageType, surfaceWidth(), surfaceHeight());
 }

@@ -175,6 +175,8 @@ private:
     Surface &surface() { return surfaces.back(); }
     const Surface &surface() const { return surfaces.back(); }
     void flushTriangles();
+    // A fresh picture on the current surface, its size limited as the raster limits it.
+    void startFresh(int width, int height);
     void setClip(const VectorBox *clip);
     void wrap(SurfaceWrap &w);
     void coat(const VectorPath &path, const PaintLayer &layer, bool fill, const VectorBox &area,
