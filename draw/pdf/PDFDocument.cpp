@@ -8,6 +8,8 @@
 namespace {
 
 const int kFlateLevel = 6;
+// Shorter streams are stored as they are: compressing them costs more than it saves.
+const size_t kSmallestCompressed = 256;
 
 std::string namesOf(const char *prefix, const std::set<int> &ids) {
     std::string s = "<<";
@@ -55,7 +57,7 @@ void PDFDocument::setStream(int id, const std::string &entries, const std::strin
     o.hasStream = true;
     o.compressed = false;
     o.stream = bytes;
-    if (bytes.empty()) return;
+    if (bytes.size() < kSmallestCompressed) return;
     std::string packed(qlx::getZlibBufferSize((int)bytes.size()), '\0');
     int n = qlx::zlibCompress(&packed[0], (int)packed.size(), bytes.data(), (int)bytes.size(),
                               kFlateLevel);

@@ -88,10 +88,18 @@ std::vector<GradientStop> ColorRamp::stops(bool periodic, int tolerance) const {
     int i = 0;
     out.push_back(GradientStop{0, e[0]});
     while (i < n - 1) {
-        int j = i + 1;
-        while (j + 1 < n && fits(e, i, j + 1, tolerance)) ++j;
-        out.push_back(GradientStop{j / span, e[j]});
-        i = j;
+        // The farthest entry the straight mix from entry i can reach, found by
+        // halving: a smooth ramp takes one long look.
+        int lo = i + 1, hi = n - 1;
+        while (lo < hi) {
+            int mid = (lo + hi + 1) / 2;
+            if (fits(e, i, mid, tolerance))
+                lo = mid;
+            else
+                hi = mid - 1;
+        }
+        out.push_back(GradientStop{lo / span, e[lo]});
+        i = lo;
     }
     if (periodic) out.push_back(GradientStop{1, e[n - 1]});
     return out;

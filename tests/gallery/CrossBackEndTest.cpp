@@ -118,6 +118,14 @@ TEST(CrossBackEnd, VectorOutputsLookLikeTheRaster) {
                              base + ".pdf' '" + base + "-pdf'",
                          &out))
             << s.fileName << ": " << out;
+        // The other readers take every file as well.
+        ASSERT_TRUE(s.render(base + ".svgz")) << s.fileName;
+        EXPECT_EQ(0, run("rsvg-convert '" + base + ".svgz' -o '" + base + "-svgz.png'", &out))
+            << s.fileName << ": " << out;
+        EXPECT_EQ(0, run("pdftotext '" + base + ".pdf' -", &out)) << s.fileName << ": " << out;
+        if (hasTool("qpdf")) {
+            EXPECT_EQ(0, run("qpdf --check '" + base + ".pdf'", &out)) << s.fileName << ": " << out;
+        }
         Difference svg = compare(raster, readRgb(base + "-svg.png"));
         Difference pdf = compare(raster, readRgb(base + "-pdf.png"));
         // Edges are smoothed by each renderer its own way; poppler also
