@@ -6,10 +6,10 @@
 
 int main(int argc, char **argv) {
     for (const Workload &w : workloads()) {
-        benchmark::RegisterBenchmark(w.name, [render = w.render](benchmark::State &state) {
+        benchmark::RegisterBenchmark(w.name, [w](benchmark::State &state) {
             size_t bytes = 0;
             for (auto _ : state) {
-                std::string out = render();
+                std::string out = renderWorkload(w);
                 bytes = out.size();
                 benchmark::DoNotOptimize(out.data());
             }

@@ -8,7 +8,7 @@ int main(int argc, char **argv) {
     std::string dir = argc > 1 ? argv[1] : "out/workloads";
     int failures = 0;
     for (const Workload &w : workloads()) {
-        std::string out = w.render();
+        std::string out = renderWorkload(w);
         std::string path = dir + "/" + w.fileName;
         FILE *f = out.empty() ? nullptr : std::fopen(path.c_str(), "wb");
         if (!f || std::fwrite(out.data(), 1, out.size(), f) != out.size()) {

@@ -45,13 +45,7 @@ void DrawArea::getImageSize(int length, const char *data, int *width, int *heigh
 }
 
 const char *DrawArea::getMediaType(int imageType) {
-    static const char *const kMediaTypes[] = {
-        "image/png", "image/gif",     "image/jpeg",    "image/unknown",
-        "image/bmp", "image/svg+xml", "image/svg+xml", "application/pdf",
-    };
-    if (imageType < 0 || imageType >= (int)(sizeof kMediaTypes / sizeof *kMediaTypes))
-        return "image/unknown";
-    return kMediaTypes[imageType];
+    return ImageSniffer::getMediaType(imageType);
 }
 
 char *DrawArea::getGlobalResource(const char *id, int *length) {

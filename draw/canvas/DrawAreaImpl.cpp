@@ -14,8 +14,10 @@
 #include "draw/canvas/TextAntiAlias.h"
 #include "draw/codec/ImageEncoder.h"
 #include "draw/list/MetaDraw.h"
+#include "draw/pdf/DrawPDF.h"
 #include "draw/pixel/ColorWords.h"
 #include "draw/raster/DrawBMP.h"
+#include "draw/svg/DrawSVG.h"
 #include "foundation/Codec.h"
 #include "foundation/Constants.h"
 #include "foundation/Unicode.h"
@@ -275,7 +277,22 @@ void DrawAreaImpl::shearTransform(double xShear, double yShear, int bgColor, int
 void DrawAreaImpl::warp(ImageOps::ImageWarp::Kind kind, int bgColor, double period,
                         double amplitude, double phase) {
     ImageOps::ImageWarp w = {kind, getARGBColor(bgColor), period, amplitude, phase};
-    if (DrawBMP *raster = getRaster()) raster->replaceImage(ImageOps::warp(raster->copyImage(), w));
+    DrawBMP *raster = getRaster();
+    if (!raster) return;
+    PixelBuffer warped = ImageOps::warp(raster->copyImage(), w);
+    // No record draws a warp: the warped picture goes into the list as an
+    // image, so that the vector outputs show it too.
+    qlx::ostrstream png;
+    char *block = nullptr;
+    if (ImageEncoder::encodePNG(png, warped.pixels.data(), warped.width, warped.height))
+        block = static_cast<char *>(malloc(png.tell()));
+    if (!block) {
+        raster->replaceImage(warped);
+        return;
+    }
+    memcpy(block, png.str(), png.tell());
+    metaDraw->loadStream(block, png.tell(), kPNG, warped.width, warped.height);
+    resetClip();
 }
 
 void DrawAreaImpl::waveTransform(double period, double amplitude, double phase, int bgColor) {
@@ -1045,9 +1062,28 @@ bool DrawAreaImpl::writeVector(qlx::ostream &out, int imageType, const char *opt
     return ok;
 }
 
-bool DrawAreaImpl::playVector(int, qlx::ostream &) {
-    // No vector back end is built yet: SVG and PDF output fail.
-    return false;
+bool DrawAreaImpl::playVector(int imageType, qlx::ostream &out) {
+    MetaDraw *list = metaDraw;
+    MetaDraw *picture = nullptr;
+    if (metaDraw->getOption("bitmap")) {
+        // The raster as one picture, in a list that reads this list's options.
+        DrawBMP *raster = getRaster();
+        if (!raster || !raster->getPixels()) return false;
+        int w = raster->getWidth(), h = raster->getHeight();
+        picture = MetaDraw::create(nullptr);
+        picture->setOptionParent(metaDraw);
+        picture->setSize(w, h, kTransparent);
+        picture->mergeBitMap(raster->getPixels(), w * h, w, 0, 0);
+        list = picture;
+    }
+    VectorBackEnd *document = imageType == kSVG
+                                  ? static_cast<VectorBackEnd *>(DrawSVG::create(list))
+                                  : DrawPDF::create(list);
+    list->playAll(document);
+    bool ok = document->write(out);
+    delete document;
+    if (picture) picture->destroyList();
+    return ok;
 }
 
 bool DrawAreaImpl::writeSVGStream(qlx::ostream &out, const char *options) {

@@ -1,6 +1,7 @@
 #include "draw/codec/ImageDecoder.h"
 
 #include <climits>
+#include <cstdio>
 #include <cstdlib>
 
 #include "draw/codec/BMPCodec.h"
@@ -42,4 +43,21 @@ int *ImageDecoder::decodeAllocated(const char *data, int length, int type, int *
         return nullptr;
     }
     return pixels;
+}
+
+std::vector<char> ImageDecoder::readFile(const char *path, long long limit) {
+    std::vector<char> bytes;
+    FILE *f = path && *path ? std::fopen(path, "rb") : nullptr;
+    if (!f) return bytes;
+    char buf[65536];
+    size_t got;
+    while ((got = std::fread(buf, 1, sizeof buf, f)) > 0) {
+        if ((long long)(bytes.size() + got) > limit) {
+            bytes.clear();
+            break;
+        }
+        bytes.insert(bytes.end(), buf, buf + got);
+    }
+    std::fclose(f);
+    return bytes;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 // One entry for all image decoders.
 class ImageDecoder {
 public:
@@ -13,4 +15,6 @@ public:
     // the declared size (0 to read it from the header) and receive the size
     // used.  Null on failure.
     static int *decodeAllocated(const char *data, int length, int type, int *width, int *height);
+    // The bytes of a file, or none when it can't be read or is longer than limit.
+    static std::vector<char> readFile(const char *path, long long limit);
 };

@@ -82,3 +82,13 @@ bool ImageSniffer::jpegSize(int length, const unsigned char *data, int *width, i
         pos += 1 + segment;
     }
 }
+
+const char *ImageSniffer::getMediaType(int imageType) {
+    static const char *const kMediaTypes[] = {
+        "image/png", "image/gif",     "image/jpeg",    "image/unknown",
+        "image/bmp", "image/svg+xml", "image/svg+xml", "application/pdf",
+    };
+    if (imageType < 0 || imageType >= (int)(sizeof kMediaTypes / sizeof *kMediaTypes))
+        return "image/unknown";
+    return kMediaTypes[imageType];
+}

@@ -9,6 +9,8 @@ public:
     // False, with (0, 0), when the header can't be read.  Sizes are as stored: a
     // top-down BMP gives a negative height.
     static bool getSize(int length, const unsigned char *data, int *width, int *height);
+    // The media type of an image type number (kPNG ... kPDF), "image/unknown" for others.
+    static const char *getMediaType(int imageType);
 
 private:
     static bool jpegSize(int length, const unsigned char *data, int *width, int *height);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "draw/list/GlyphText.h"
 #include "draw/list/MetaOpcodes.h"
 #include "foundation/ArrayViews.h"
@@ -12,6 +14,29 @@ struct MetaLineEntry {
     int width;
     double x, y;
 };
+
+// The poly-lines of a MultiLine record: a style entry ends the run so far and
+// the next run starts at that run's last point.  Calls out(color, width, xy)
+// for each run of two points or more; color and width hold the style in force
+// before and after.
+template <class Out>
+void forEachLineRun(const MetaLineEntry *items, int count, int &color, int &width, Out out) {
+    std::vector<double> run;
+    auto flush = [&]() {
+        if (run.size() >= 4) out(color, width, DoubleArray(run.data(), (int)run.size()));
+        if (run.size() >= 2) run.erase(run.begin(), run.end() - 2);
+    };
+    for (int i = 0; items && i < count; ++i) {
+        if (items[i].isStyle) {
+            flush();
+            color = items[i].color, width = items[i].width;
+            continue;
+        }
+        run.push_back(items[i].x);
+        run.push_back(items[i].y);
+    }
+    flush();
+}
 
 // One edge of a Shape record.  `type` is kPathLine, kPathArc or kPathArc2 and
 // `v` holds the numbers in record order: Line x1 y1 x2 y2; Arc cx cy rx ry x1

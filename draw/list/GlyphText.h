@@ -39,6 +39,9 @@ struct PlacedGlyph {
     double x, y;  // the pen position in the frame
     double advance;
     GlyphImage image;
+    // The character whose glyph is drawn: the first character, or its mirrored
+    // or contextual form in right-to-left text.
+    int drawnChar = 0;
 };
 
 // Glyphs of one font, one colour and one direction, in drawing order (left to

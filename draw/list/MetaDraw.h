@@ -69,6 +69,9 @@ public:
     // Replays the records from fromPos; returns the position reached, or 0 when
     // the back end must be rebuilt and the play started again from 0.
     virtual int play(DrawBackEnd *backEnd, int fromPos) = 0;
+    // Replays every record once at scale 1, for a vector output: it sizes the
+    // picture with its own page matrix, so "bmpscale" and "dpi" don't apply.
+    virtual void playAll(DrawBackEnd *backEnd) = 0;
 
     // Dynamic layer: the mark returns the position of the InitDynamicLayer record.
     virtual int markDynamicLayer() = 0;

@@ -679,6 +679,14 @@ int MetaDrawImpl::play(DrawBackEnd *backEnd, int fromPos) {
     return reached;
 }
 
+void MetaDrawImpl::playAll(DrawBackEnd *backEnd) {
+    if (!backEnd || !enterReading()) return;
+    prepareForReading();
+    MetaPlayer player(this, backEnd, 1.0);
+    player.play(0);
+    leaveReading();
+}
+
 void MetaDrawImpl::playSymbol(DrawBackEnd *backEnd, double scale) {
     if (!enterReading()) return;
     prepareForReading();

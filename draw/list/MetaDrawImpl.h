@@ -38,6 +38,7 @@ public:
 
     void writeListing(qlx::ostream &out) override;
     int play(DrawBackEnd *backEnd, int fromPos) override;
+    void playAll(DrawBackEnd *backEnd) override;
 
     int markDynamicLayer() override;
     int rollback(DrawBackEnd *raster) override;

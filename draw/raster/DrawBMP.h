@@ -69,6 +69,10 @@ public:
     // A glyph's coverage (0 to 255, pitch bytes to a row) blended at (x, y).
     virtual void fillGlyph(const unsigned char *coverage, int width, int height, int pitch, int x,
                            int y, int color) = 0;
+    // The colours a fill with `color` (plain or dynamic) lays on a transparent
+    // canvas over the pixels x .. x + width - 1, y .. y + height - 1, row by row
+    // into out; the raster's own pixels are untouched.
+    virtual void sampleColor(int color, int x, int y, int width, int height, int *out) = 0;
     // A shape painted on this raster; the caller deletes it.
     virtual BMPShape *createShape() = 0;
 };

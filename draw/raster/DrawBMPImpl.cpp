@@ -1,8 +1,7 @@
 #include "draw/raster/DrawBMPImpl.h"
 
-#include "draw/codec/ImageDecoder.h"
-
 #include <algorithm>
+#include <climits>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -160,6 +159,23 @@ void DrawBMPImpl::blendInto(int *out, int x, int y, int color) {
 }
 
 // ---- Pixels ----
+
+void DrawBMPImpl::sampleColor(int color, int x, int y, int w, int h, int *out) {
+    if (!out || w <= 0 || h <= 0 || (long long)x + w > INT_MAX || (long long)y + h > INT_MAX)
+        return;
+    std::fill(out, out + (size_t)w * h, kTransparent);
+    ColorBrush *b = getBrush(color);
+    for (int j = 0; j < h; ++j) {
+        int *row = out + (size_t)j * w;
+        if (b && colorDepth < kMaxColorDepth) {
+            ++colorDepth;
+            b->fillSpan(this, x, x + w - 1, y + j, row, 0);
+            --colorDepth;
+        } else if (!isDynamicHandle(color) && !isInvisible((unsigned)color)) {
+            std::fill(row, row + w, color);
+        }
+    }
+}
 
 int DrawBMPImpl::getPixel(int x, int y) const {
     if (x < 0 || y < 0 || x >= width || y >= height) return kTransparent;
@@ -488,22 +504,9 @@ void DrawBMPImpl::strokeWide(const double *xy, int pointCount, int color, int li
 }
 
 void DrawBMPImpl::multiLine(const MetaLineEntry *items, int count) {
-    std::vector<double> run;
     int color = curColor, lineWidth = curWidth;
-    auto flush = [&]() {
-        if (run.size() >= 4) polyLine(color, lineWidth, DoubleArray(run.data(), (int)run.size()));
-        if (run.size() >= 2) run.erase(run.begin(), run.end() - 2);
-    };
-    for (int i = 0; items && i < count; ++i) {
-        if (items[i].isStyle) {
-            flush();
-            color = items[i].color, lineWidth = items[i].width;
-            continue;
-        }
-        run.push_back(items[i].x);
-        run.push_back(items[i].y);
-    }
-    flush();
+    forEachLineRun(items, count, color, lineWidth,
+                   [&](int c, int w, DoubleArray xy) { polyLine(c, w, xy); });
     curColor = color, curWidth = lineWidth;
 }
 
@@ -948,18 +951,10 @@ void DrawBMPImpl::patternColor(int handle, int startX, int startY, int w, int h,
 }
 
 void DrawBMPImpl::patternColor2(int handle, int startX, int startY, const char *fileName) {
-    std::vector<char> bytes;
-    if (FILE *f = fileName && *fileName ? std::fopen(fileName, "rb") : nullptr) {
-        char buf[65536];
-        size_t got;
-        while ((got = std::fread(buf, 1, sizeof buf, f)) > 0 &&
-               (long long)bytes.size() < kMaxPatternFile)
-            bytes.insert(bytes.end(), buf, buf + got);
-        std::fclose(f);
-    }
+    std::vector<char> bytes = ImageDecoder::readFile(fileName, kMaxPatternFile);
     int w = 0, h = 0;
     int *decoded = nullptr;
-    if (!bytes.empty() && decodeHook && (long long)bytes.size() < kMaxPatternFile) {
+    if (!bytes.empty() && decodeHook) {
         int type = ImageSniffer::getType((int)bytes.size(), (const unsigned char *)bytes.data());
         if (type >= 0) decoded = decodeHook(bytes.data(), (int)bytes.size(), type, &w, &h);
     }

@@ -42,6 +42,7 @@ public:
     void fillGlyph(const unsigned char *coverage, int w, int h, int pitch, int x, int y,
                    int color) override;
     BMPShape *createShape() override;
+    void sampleColor(int color, int x, int y, int width, int height, int *out) override;
 
     // BrushHost
     int resolveColor(int color, int x, int y) override;

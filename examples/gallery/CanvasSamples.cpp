@@ -2,10 +2,11 @@
 #include "draw/canvas/DrawArea.h"
 #include "draw/pixel/ColorWords.h"
 #include "examples/gallery/Gallery.h"
+#include "examples/gallery/GalleryScenes.h"
 #include "foundation/Constants.h"
 
 // A small scene that uses most kinds of record: shapes, lines, a gradient.
-static DrawArea *drawScene() {
+DrawArea *drawCanvasScene() {
     DrawArea *d = DrawArea::create();
     d->setSize(360, 240, 0xf4f6fa);
     const int fill[] = {0x4a90d9, 0xe4572e, 0x76b041, 0xffc914};
@@ -20,33 +21,20 @@ static DrawArea *drawScene() {
     return d;
 }
 
-static bool canvasListing(const std::string &path) {
-    DrawArea *d = drawScene();
-    bool ok = d->out(path.c_str());
-    d->destroy();
-    return ok;
-}
-
-static bool canvasPicture(const std::string &path) {
-    DrawArea *d = drawScene();
+// The scene written to the file the sample names, in the format of its ending.
+static bool saveScene(const std::string &path) {
+    DrawArea *d = drawCanvasScene();
     bool ok = d->out(path.c_str());
     d->destroy();
     return ok;
 }
 
 VISTREL_GALLERY_SAMPLE("Canvas", "A free drawing: shapes, gradient, lines and a dash",
-                       "canvas_scene.png", canvasPicture);
+                       "canvas_scene.png", saveScene);
 VISTREL_GALLERY_SAMPLE("Canvas", "The same drawing as a listing of its display list",
-                       "canvas_scene.agf", canvasListing);
+                       "canvas_scene.agf", saveScene);
 
 // The same scene through every raster encoder, and a loaded picture tiled.
-static bool saveAs(const std::string &path) {
-    DrawArea *d = drawScene();
-    bool ok = d->out(path.c_str());
-    d->destroy();
-    return ok;
-}
-
 static bool loadedAndTiled(const std::string &path) {
     // A small picture made here, encoded, loaded back from the bytes and tiled.
     DrawArea *tile = DrawArea::create();
@@ -65,9 +53,9 @@ static bool loadedAndTiled(const std::string &path) {
     return ok;
 }
 
-VISTREL_GALLERY_SAMPLE("Formats", "GIF (palette, LZW)", "format_scene.gif", saveAs);
-VISTREL_GALLERY_SAMPLE("Formats", "JPEG, quality 80", "format_scene.jpg", saveAs);
-VISTREL_GALLERY_SAMPLE("Formats", "BMP", "format_scene.bmp", saveAs);
-VISTREL_GALLERY_SAMPLE("Formats", "WBMP (one bit a pixel)", "format_scene.wbmp", saveAs);
+VISTREL_GALLERY_SAMPLE("Formats", "GIF (palette, LZW)", "format_scene.gif", saveScene);
+VISTREL_GALLERY_SAMPLE("Formats", "JPEG, quality 80", "format_scene.jpg", saveScene);
+VISTREL_GALLERY_SAMPLE("Formats", "BMP", "format_scene.bmp", saveScene);
+VISTREL_GALLERY_SAMPLE("Formats", "WBMP (one bit a pixel)", "format_scene.wbmp", saveScene);
 VISTREL_GALLERY_SAMPLE("Formats", "A PNG loaded back from its bytes and tiled",
                        "format_loaded_tile.png", loadedAndTiled);

@@ -1,14 +1,10 @@
 // Renders every registered sample and writes index.html beside the pictures.
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <string>
 
 #include "examples/gallery/Gallery.h"
-
-std::vector<GallerySample> &gallerySamples() {
-    static std::vector<GallerySample> samples;
-    return samples;
-}
 
 static std::string htmlEscape(const char *s) {
     std::string out;
@@ -33,11 +29,19 @@ static std::string htmlEscape(const char *s) {
     return out;
 }
 
+static bool endsWith(const std::string &name, const char *ext) {
+    size_t n = strlen(ext);
+    return name.size() > n && name.compare(name.size() - n, n, ext) == 0;
+}
+
 static bool isPicture(const std::string &name) {
     for (const char *ext : {".png", ".jpg", ".gif", ".bmp", ".svg"})
-        if (name.size() > 4 && name.compare(name.size() - 4, 4, ext) == 0) return true;
+        if (endsWith(name, ext)) return true;
     return false;
 }
+
+// The vector outputs every PNG sample is written in as well; the SVG first.
+static const char *const kVectorEndings[] = {".svg", ".svgz", ".pdf"};
 
 int main(int argc, char **argv) {
     std::string dir = argc > 1 ? argv[1] : "out/gallery";
@@ -51,7 +55,8 @@ int main(int argc, char **argv) {
         "<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>Vistrel gallery</title>\n"
         "<style>body{font-family:sans-serif;margin:2em;background:#f4f4f4}"
         ".s{display:inline-block;vertical-align:top;margin:8px;padding:8px;background:#fff;"
-        "border:1px solid #ccc}.s img{display:block;max-width:640px}</style></head><body>\n"
+        "border:1px solid #ccc}.s img{display:inline-block;vertical-align:top;max-width:640px;"
+        "margin-right:8px}</style></head><body>\n"
         "<h1>Vistrel gallery</h1>\n";
     int failures = 0;
     std::string section;
@@ -62,15 +67,30 @@ int main(int argc, char **argv) {
         }
         std::string path = dir + "/" + s.fileName;
         bool ok = s.render(path);
+        // A picture also goes out in the vector formats, shown beside it.
+        std::vector<std::string> vectors;
+        if (endsWith(s.fileName, ".png"))
+            for (const char *ext : kVectorEndings) {
+                std::string name = std::string(s.fileName, strlen(s.fileName) - 4) + ext;
+                ok = s.render(dir + "/" + name) && ok;
+                vectors.push_back(name);
+            }
         if (!ok) {
             ++failures;
             std::fprintf(stderr, "gallery: sample '%s' failed\n", s.title);
         }
         html += "<div class=\"s\"><p>" + htmlEscape(s.title) + "</p>";
         std::string name = htmlEscape(s.fileName);
-        if (isPicture(s.fileName))
-            html += "<img src=\"" + name + "\" alt=\"" + htmlEscape(s.title) + "\">";
+        if (isPicture(s.fileName)) {
+            html +=
+                "<div class=\"row\"><img src=\"" + name + "\" alt=\"" + htmlEscape(s.title) + "\">";
+            if (!vectors.empty())
+                html += "<img src=\"" + htmlEscape(vectors[0].c_str()) + "\" alt=\"SVG\">";
+            html += "</div>";
+        }
         html += "<a href=\"" + name + "\">" + name + "</a>";
+        for (const std::string &v : vectors)
+            html += " <a href=\"" + htmlEscape(v.c_str()) + "\">" + htmlEscape(v.c_str()) + "</a>";
         if (!ok) html += " <b>(failed)</b>";
         html += "</div>\n";
     }

@@ -34,15 +34,12 @@ PieChart *salesPie(int width, int height, const char *title, int n) {
 }
 
 bool workloadW3(const std::string &path) {
-    for (const Workload &w : workloads()) {
-        if (strcmp(w.name, "W3") != 0) continue;
-        std::string png = w.render();
-        FILE *f = fopen(path.c_str(), "wb");
-        bool ok = f && !png.empty() && fwrite(png.data(), 1, png.size(), f) == png.size();
-        if (f) fclose(f);
-        return ok;
-    }
-    return false;
+    const Workload *w = findWorkload("W3");
+    if (!w) return false;
+    BaseChart *c = w->build();
+    bool ok = c->makeChart(path.c_str());
+    c->destroy();
+    return ok;
 }
 
 bool donut(const std::string &path) {

@@ -2,9 +2,10 @@
 // right-to-left scripts, drawn with the built-in stand-in fonts.
 #include "draw/canvas/DrawArea.h"
 #include "examples/gallery/Gallery.h"
+#include "examples/gallery/GalleryScenes.h"
 #include "text/CanvasText.h"
 
-static bool textMarkup(const std::string &path) {
+DrawArea *drawTextPage() {
     CanvasText::install();
     DrawArea *d = DrawArea::create();
     d->setSize(420, 300, 0xffffff);
@@ -27,6 +28,11 @@ static bool textMarkup(const std::string &path) {
         "Symbols inline: <*img=@circle,width=10,color=E4572E*> and "
         "<*img=@star(5),size=12,color=FFC914*>",
         "arial.ttf", 0, 12, 0, 0, false, 10, 160, 0x000000, 7);
+    return d;
+}
+
+static bool textMarkup(const std::string &path) {
+    DrawArea *d = drawTextPage();
     bool ok = d->out(path.c_str());
     d->destroy();
     return ok;

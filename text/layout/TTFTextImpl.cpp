@@ -278,9 +278,14 @@ void TTFTextImpl::addToRuns(const Glyph &g, int color, FontFace *&runFace, Glyph
         out.runs.push_back(GlyphRun{fontOf(face), color, g.rightToLeft, (int)out.glyphs.size(), 0});
         runFace = face;
     }
-    PlacedGlyph placed{g.glyph->glyphId, (int)out.chars.size(),     1,
-                       g.x + g.xOffset,  (double)(g.y - g.yOffset), g.glyph->advance,
-                       imageOf(g.glyph)};
+    PlacedGlyph placed{g.glyph->glyphId,
+                       (int)out.chars.size(),
+                       1,
+                       g.x + g.xOffset,
+                       (double)(g.y - g.yOffset),
+                       g.glyph->advance,
+                       imageOf(g.glyph),
+                       g.replacement ? g.replacement : g.ch};
     out.chars.push_back(g.ch);
     if (g.ligated) {
         out.chars.push_back(g.ligated);
