@@ -67,7 +67,12 @@ set(vistrel_public_includes $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
     $<BUILD_INTERFACE:${VISTREL_GENERATED_INCLUDE}>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vistrel>)
 # A sanitized engine needs the sanitizer runtime in every program that links it.
-set(vistrel_consumer_link_options $<$<BOOL:${VISTREL_SANITIZE}>:-fsanitize=address,undefined>)
+set(vistrel_consumer_link_options "")
+set(VISTREL_PC_SANITIZE "")
+if(VISTREL_SANITIZE)
+  set(vistrel_consumer_link_options -fsanitize=address,undefined)
+  set(VISTREL_PC_SANITIZE " -fsanitize=address,undefined")
+endif()
 
 add_library(vistrel_static STATIC ${vistrel_objects})
 target_link_libraries(vistrel_static PUBLIC ${vistrel_external})
@@ -136,9 +141,6 @@ set(VISTREL_PKGCONFIG_INSTALL_DIR ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH VISTREL_PC_TO_PREFIX /${VISTREL_PKGCONFIG_INSTALL_DIR} /)
 string(REGEX REPLACE "/$" "" VISTREL_PC_TO_PREFIX "${VISTREL_PC_TO_PREFIX}")
 string(REPLACE ";" " " VISTREL_PC_REQUIRES "${VISTREL_PKG_MODULES}")
-if(VISTREL_SANITIZE)
-  set(VISTREL_PC_SANITIZE "-fsanitize=address,undefined")
-endif()
 foreach(pc vistrel vistrel-static)
   configure_file(${PROJECT_SOURCE_DIR}/cmake/${pc}.pc.in ${PROJECT_BINARY_DIR}/${pc}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${pc}.pc DESTINATION ${VISTREL_PKGCONFIG_INSTALL_DIR})

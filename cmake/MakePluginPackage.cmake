@@ -26,10 +26,9 @@ foreach(file ${files})
 endforeach()
 set(LIBRARY ${library})
 configure_file(${README} ${FOLDER}/ReadMe.txt @ONLY)
-list(APPEND files ReadMe.txt)
-list(SORT files)
 
+# Folders get entries of their own, as zip tools write them.
 file(REMOVE ${ZIP})
 execute_process(COMMAND ${CMAKE_COMMAND} -E tar cf ${ZIP} --format=zip
-                        "--mtime=2026-01-01 00:00:00 UTC" -- ${files}
+                        "--mtime=2026-01-01 00:00:00 UTC" -- ReadMe.txt Vistrel
                 WORKING_DIRECTORY ${FOLDER} COMMAND_ERROR_IS_FATAL ANY)
