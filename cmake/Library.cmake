@@ -87,7 +87,11 @@ add_library(vistrel_shared SHARED ${vistrel_objects})
 target_link_libraries(vistrel_shared PRIVATE ${vistrel_external})
 target_include_directories(vistrel_shared INTERFACE ${vistrel_public_includes})
 target_link_options(vistrel_shared PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/vistrel.map
-                    -Wl,--no-undefined INTERFACE ${vistrel_consumer_link_options})
+                    INTERFACE ${vistrel_consumer_link_options})
+# Complete in itself; clang's sanitizers leave their runtime to the program.
+if(NOT VISTREL_FUZZ)
+  target_link_options(vistrel_shared PRIVATE -Wl,--no-undefined)
+endif()
 set_target_properties(vistrel_shared PROPERTIES
   OUTPUT_NAME vistrel
   EXPORT_NAME vistrel_shared
