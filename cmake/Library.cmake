@@ -10,6 +10,9 @@ include(CMakePackageConfigHelpers)
 set(VISTREL_GENERATED_INCLUDE ${PROJECT_BINARY_DIR}/include)
 file(GLOB_RECURSE vistrel_api_files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/api/*.h
      ${PROJECT_SOURCE_DIR}/api/*.cpp)
+# Rewritten only when a file comes or goes, so that a removed header leaves the
+# generated ones too.
+file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/vistrel_api_files.txt CONTENT "${vistrel_api_files}")
 add_custom_command(
   OUTPUT ${PROJECT_BINARY_DIR}/vistrel_headers.stamp
   BYPRODUCTS ${VISTREL_GENERATED_INCLUDE}/vistrel.h ${VISTREL_GENERATED_INCLUDE}/vistrel.hpp
@@ -19,6 +22,7 @@ add_custom_command(
   COMMAND ${CMAKE_COMMAND} -E touch ${PROJECT_BINARY_DIR}/vistrel_headers.stamp
   DEPENDS ${PROJECT_SOURCE_DIR}/cmake/GenerateHeaders.cmake ${PROJECT_SOURCE_DIR}/api/vistrel.h.in
           ${PROJECT_SOURCE_DIR}/api/vistrel.hpp.in ${vistrel_api_files}
+          ${PROJECT_BINARY_DIR}/vistrel_api_files.txt
   COMMENT "Generating vistrel.h and vistrel.hpp"
   VERBATIM)
 add_custom_target(vistrel_headers ALL DEPENDS ${PROJECT_BINARY_DIR}/vistrel_headers.stamp)
