@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <string>
 
 #include "examples/gallery/Gallery.h"
@@ -42,6 +43,32 @@ static bool isPicture(const std::string &name) {
 
 // The vector outputs every PNG sample is written in as well; the SVG first.
 static const char *const kVectorEndings[] = {".svg", ".svgz", ".pdf"};
+// The example programs users copy (examples/c, examples/cpp), copied beside the
+// page and linked from it.
+static std::string exampleLinks(const std::string &dir) {
+    namespace fs = std::filesystem;
+    std::string html =
+        "<h2>Example programs</h2>\n<p>Programs that build against the installed "
+        "library: the same canvas and chart through the C interface and through "
+        "the C++ classes.</p>\n<ul>\n";
+    for (const char *language : {"c", "cpp"}) {
+        fs::path from = fs::path(VISTREL_SOURCE_DIR) / "examples" / language;
+        fs::path to = fs::path(dir) / "examples" / language;
+        std::error_code error;
+        fs::create_directories(to, error);
+        std::vector<std::string> names;
+        for (const auto &entry : fs::directory_iterator(from, error))
+            if (entry.is_regular_file()) names.push_back(entry.path().filename().string());
+        std::sort(names.begin(), names.end());
+        for (const std::string &name : names) {
+            fs::copy_file(from / name, to / name, fs::copy_options::overwrite_existing, error);
+            std::string link =
+                htmlEscape(("examples/" + std::string(language) + "/" + name).c_str());
+            html += "<li><a href=\"" + link + "\">" + link + "</a></li>\n";
+        }
+    }
+    return html + "</ul>\n";
+}
 
 int main(int argc, char **argv) {
     std::string dir = argc > 1 ? argv[1] : "out/gallery";
@@ -58,6 +85,7 @@ int main(int argc, char **argv) {
         "border:1px solid #ccc}.s img{display:inline-block;vertical-align:top;max-width:640px;"
         "margin-right:8px}</style></head><body>\n"
         "<h1>Vistrel gallery</h1>\n";
+    html += exampleLinks(dir);
     int failures = 0;
     std::string section;
     for (const GallerySample &s : samples) {

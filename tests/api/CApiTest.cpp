@@ -193,23 +193,3 @@ TEST(CApi, ChartHandlesConvertAlongTheirBases) {
     CBaseChart_destroy(c);
     CBaseChart_destroy(CMultiChart_toBaseChart(inner));
 }
-
-// The headers are C: they compile as C99 on their own.
-TEST(CApi, HeadersAreC99) {
-    std::string command =
-        std::string("cc -std=c99 -pedantic -Wall -Wextra -Werror -fsyntax-only -I'") +
-        VISTREL_SOURCE_DIR + "' -x c - 2>&1";
-    FILE *p = popen(command.c_str(), "w");
-    ASSERT_NE(nullptr, p);
-    fputs(
-        "#include \"api/CDrawArea.h\"\n#include \"api/CTTFText.h\"\n"
-        "#include \"api/CArrayMath.h\"\n#include \"api/CChart.h\"\n"
-        "#include \"api/chart/CAxis.h\"\n#include \"api/chart/CBaseChart.h\"\n"
-        "#include \"api/chart/CBox.h\"\n#include \"api/chart/CDrawObj.h\"\n"
-        "#include \"api/chart/CLegendBox.h\"\n#include \"api/chart/CLine.h\"\n"
-        "#include \"api/chart/CMultiChart.h\"\n#include \"api/chart/CTextBox.h\"\n"
-        "#include \"api/chart/CVSMLTable.h\"\n"
-        "int main(void) { return CChart_xySize(1, 2) == 0; }\n",
-        p);
-    EXPECT_EQ(0, pclose(p));
-}
