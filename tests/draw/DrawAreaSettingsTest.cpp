@@ -54,7 +54,12 @@ TEST(DrawAreaSettings, FontTable) {
     EXPECT_STREQ("arial.ttf", c->resolveFont("font0"));
     EXPECT_STREQ("font", c->resolveFont("font"));
     EXPECT_STREQ("font1x", c->resolveFont("font1x"));
-    EXPECT_STREQ("font9", c->resolveFont("font9"));
+    // Beyond the table, or negative: the first entry.
+    EXPECT_STREQ("arial.ttf", c->resolveFont("font9"));
+    EXPECT_STREQ("arial.ttf", c->resolveFont("font-1"));
+    EXPECT_STREQ("arial.ttf", c->resolveFont("font99999999999999999999"));
+    EXPECT_STREQ("font-", c->resolveFont("font-"));
+    EXPECT_STREQ("font+1", c->resolveFont("font+1"));
     EXPECT_STREQ("Bold", c->resolveFont("Bold"));
     const char *file = "bold.ttf";
     EXPECT_EQ(file, c->resolveFont(file));
