@@ -83,6 +83,10 @@ int DrawArea::getFileLimit() {
     return GlobalResources::getFileLimit();
 }
 
+int DrawArea::getGlyphCacheLimit() {
+    return GlobalResources::getGlyphCacheLimit();
+}
+
 int DrawArea::getDefaultTextAA() {
     return GlobalResources::getDefaultTextAA();
 }

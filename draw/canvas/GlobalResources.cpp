@@ -53,6 +53,9 @@ CachedSetting pixelLimit("@PixelLimit", [](const char *text, bool) {
 CachedSetting fileLimit("@FileLimit", [](const char *text, bool) {
     return GlobalResources::parseLimit(text, 200000000);
 });
+CachedSetting glyphCacheLimit("@GlyphCacheLimit", [](const char *text, bool) {
+    return GlobalResources::parseLimit(text, 64 << 20);
+});
 CachedSetting defaultTextAA("@TextAA", [](const char *text, bool) {
     return TextAntiAlias::parseSetting(text);
 });
@@ -162,6 +165,10 @@ int GlobalResources::getPixelLimit() {
 
 int GlobalResources::getFileLimit() {
     return fileLimit.get();
+}
+
+int GlobalResources::getGlyphCacheLimit() {
+    return glyphCacheLimit.get();
 }
 
 int GlobalResources::getDefaultTextAA() {

@@ -30,6 +30,7 @@ public:
 
     static int getPixelLimit();
     static int getFileLimit();
+    static int getGlyphCacheLimit();
     static int getDefaultTextAA();
 
     // A setting text as a whole number in the C locale, or defaultValue when absent.

@@ -165,6 +165,11 @@ TEST(DrawAreaSettings, Limits) {
     // Nothing in this program sets the limits.
     EXPECT_EQ(125000000, DrawArea::getPixelLimit());
     EXPECT_EQ(200000000, DrawArea::getFileLimit());
+    // Read once, on first use: nothing in this program has read it yet.
+    DrawArea::setGlobalResource("@GlyphCacheLimit", "1.5e6", 5);
+    EXPECT_EQ(1500000, DrawArea::getGlyphCacheLimit());
+    DrawArea::setGlobalResource("@GlyphCacheLimit", "8", 1);
+    EXPECT_EQ(1500000, DrawArea::getGlyphCacheLimit());
 
     std::string value;
     EXPECT_FALSE(GlobalResources::getSetting("@TestOnly", &value));

@@ -273,5 +273,5 @@ TEST(RasterLine, LongNoisyPolylineInBoundedMemory) {
         },
         300, 1536);
     EXPECT_GE(grownMiB, 0) << "failed, ran out of memory or of time";
-    EXPECT_LT(grownMiB, 400);
+    EXPECT_LT(grownMiB, bounded_run::residentLimitMiB(400));
 }

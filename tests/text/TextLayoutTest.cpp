@@ -235,7 +235,7 @@ TEST_F(TextLayout, LongTextWrapsInLinearTime) {
         },
         90, 2048);
     EXPECT_GE(grownMiB, 0) << "failed, ran out of memory or of time";
-    EXPECT_LT(grownMiB, 1024);
+    EXPECT_LT(grownMiB, bounded_run::residentLimitMiB(1024));
 }
 
 TEST_F(TextLayout, WrapBoundariesAndTruncation) {
