@@ -7,12 +7,12 @@
 #include "draw/canvas/DrawArea.h"
 #include "tests/draw/BoundedRun.h"
 #include "text/CanvasText.h"
-#include "text/font/CanvasGlyphLimit.h"
+#include "text/font/cache/CanvasGlyphLimit.h"
 #include "text/font/FontDriver.h"
 #include "text/font/FontFace.h"
 #include "text/font/FontGlyph.h"
 #include "text/font/FontLock.h"
-#include "text/font/GlyphCache.h"
+#include "text/font/cache/GlyphCache.h"
 #include "text/font/LibTTFFontDriver.h"
 
 namespace {

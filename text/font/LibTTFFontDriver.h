@@ -7,7 +7,7 @@
 
 #include "text/font/FontDriver.h"
 #include "text/font/FreeTypeHandles.h"
-#include "text/font/GlyphCache.h"
+#include "text/font/cache/GlyphCache.h"
 
 class FontFileEntry;
 class FontName;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "text/font/FontGlyph.h"
-#include "text/font/GlyphCache.h"
+#include "text/font/cache/GlyphCache.h"
 
 class GlyphBitmap;
 class LibTTFSizedFontFace;

@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-#include "text/font/CanvasGlyphLimit.h"
+#include "text/font/cache/CanvasGlyphLimit.h"
 #include "text/font/FontFileEntry.h"
 #include "text/font/FontGlyph.h"
 #include "text/font/GlyphBitmap.h"

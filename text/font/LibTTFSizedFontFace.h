@@ -3,7 +3,7 @@
 #include <map>
 
 #include "text/font/FontFace.h"
-#include "text/font/GlyphCache.h"
+#include "text/font/cache/GlyphCache.h"
 
 class FontFileEntry;
 class GlyphBitmap;

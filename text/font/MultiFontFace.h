@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "text/font/FontFace.h"
-#include "text/font/GlyphCache.h"
+#include "text/font/cache/GlyphCache.h"
 
 class LibTTFFontDriver;
 

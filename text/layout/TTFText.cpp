@@ -7,7 +7,7 @@
 #include "draw/canvas/DrawArea.h"
 #include "draw/list/GlyphText.h"
 #include "foundation/Unicode.h"
-#include "text/font/CanvasGlyphLimit.h"
+#include "text/font/cache/CanvasGlyphLimit.h"
 #include "text/font/FontLock.h"
 #include "text/layout/TTFBlocks.h"
 #include "text/layout/TTFTextImpl.h"

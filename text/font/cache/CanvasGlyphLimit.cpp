@@ -1,4 +1,4 @@
-#include "text/font/CanvasGlyphLimit.h"
+#include "text/font/cache/CanvasGlyphLimit.h"
 
 int CanvasGlyphLimit::width = 0;
 int CanvasGlyphLimit::height = 0;

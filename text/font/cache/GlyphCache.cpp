@@ -1,4 +1,4 @@
-#include "text/font/GlyphCache.h"
+#include "text/font/cache/GlyphCache.h"
 
 GlyphCache::GlyphCache(long long b)
     : budget(b),
