@@ -18,6 +18,7 @@
 
 #include "draw/canvas/DrawArea.h"
 #include "foundation/ArrayViews.h"
+#include "tests/draw/BoundedRun.h"
 #include "text/CanvasText.h"
 #include "text/layout/TTFText.h"
 
@@ -29,15 +30,6 @@ struct Case {
     const char *what;
     long (*run)(long n);  // returns a checksum, so that nothing is optimised away
 };
-
-long residentKiB() {
-    FILE *f = fopen("/proc/self/statm", "r");
-    if (!f) return 0;
-    long pages = 0, resident = 0;
-    if (fscanf(f, "%ld %ld", &pages, &resident) != 2) resident = 0;
-    fclose(f);
-    return resident * (sysconf(_SC_PAGESIZE) / 1024);
-}
 
 // A time series of n points across 1000 pixels whose values jump at random.
 long noisyPoints(long n) {
@@ -75,35 +67,36 @@ long wrappedText(long n) {
     return height;
 }
 
-// n small charts, each with its title and labels at a font size of its own.
-long distinctSizes(long n) {
+// n small charts, each drawn by draw(canvas, i) and encoded.
+long drawCharts(long n, void (*draw)(DrawArea *d, long i)) {
     long total = 0;
     for (long i = 0; i < n; ++i) {
         DrawArea *d = DrawArea::create();
         d->setSize(400, 300, 0xFFFFFF);
-        double height = 8 + 0.05 * (double)(i % 400), width = 8 + 0.05 * (double)(i / 400);
-        d->text4("Quarterly revenue by region", "arial.ttf", 0, height, width, 0, false, 200, 10,
-                 0x000000, 8);
-        d->text4("North 1,234.5  South 987.6  East 2,345.1", "arialbd.ttf", 0, height, width, 0,
-                 false, 10, 150, 0x333333, 7);
+        draw(d, i);
         total += d->outPNG2().len;
         d->destroy();
     }
     return total;
 }
 
-// n letters at 4096 points on a small canvas, one text each.
+// Each chart with its title and labels at a font size of its own.
+long distinctSizes(long n) {
+    return drawCharts(n, [](DrawArea *d, long i) {
+        double height = 8 + 0.05 * (double)(i % 400), width = 8 + 0.05 * (double)(i / 400);
+        d->text4("Quarterly revenue by region", "arial.ttf", 0, height, width, 0, false, 200, 10,
+                 0x000000, 8);
+        d->text4("North 1,234.5  South 987.6  East 2,345.1", "arialbd.ttf", 0, height, width, 0,
+                 false, 10, 150, 0x333333, 7);
+    });
+}
+
+// Each chart with one letter at 4096 points.
 long bigGlyphs(long n) {
-    long total = 0;
-    for (long i = 0; i < n; ++i) {
-        DrawArea *d = DrawArea::create();
-        d->setSize(400, 300, 0xFFFFFF);
+    return drawCharts(n, [](DrawArea *d, long i) {
         char letter[2] = {(char)('!' + i % 90), 0};
         d->text4(letter, "arial.ttf", 0, 4096, 0, 0, false, 0, 0, 0x000000, 7);
-        total += d->outPNG2().len;
-        d->destroy();
-    }
-    return total;
+    });
 }
 
 const Case kCases[] = {
@@ -124,7 +117,7 @@ int runInChild(const Case &c, long n) {
         close(pipeFd[0]);
         CanvasText::install();
         long sum = c.run(n);
-        long rss = residentKiB();
+        long rss = bounded_run::residentKiB();
         long out[2] = {sum, rss};
         ssize_t written = write(pipeFd[1], out, sizeof out);
         _exit(written == (ssize_t)sizeof out ? 0 : 1);

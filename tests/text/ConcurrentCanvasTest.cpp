@@ -10,18 +10,12 @@
 
 #include "draw/canvas/DrawArea.h"
 #include "foundation/ArrayViews.h"
+#include "tests/text/TextTestSupport.h"
 #include "text/CanvasText.h"
 
 namespace {
 
-const char *kFontDir = VISTREL_BINARY_DIR "/fonts";
-
-std::string readFile(const std::string &path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
+const char *const kFontDir = testFontDir();
 
 DrawArea *makeLogo(int size, int color) {
     DrawArea *d = DrawArea::create();

@@ -6,18 +6,19 @@
 
 #include "draw/canvas/DrawArea.h"
 #include "tests/draw/BoundedRun.h"
+#include "tests/text/TextTestSupport.h"
 #include "text/CanvasText.h"
-#include "text/font/cache/CanvasGlyphLimit.h"
 #include "text/font/FontDriver.h"
 #include "text/font/FontFace.h"
 #include "text/font/FontGlyph.h"
 #include "text/font/FontLock.h"
-#include "text/font/cache/GlyphCache.h"
 #include "text/font/LibTTFFontDriver.h"
+#include "text/font/cache/CanvasGlyphLimit.h"
+#include "text/font/cache/GlyphCache.h"
 
 namespace {
 
-const char *kFontDir = VISTREL_BINARY_DIR "/fonts";
+const char *const kFontDir = testFontDir();
 const int kMode = 1;
 
 // An item that notes its eviction and can refuse it.

@@ -16,6 +16,16 @@
 #include "text/layout/TextTransform.h"
 
 TTFTextImpl::TTFTextImpl(DrawArea *d, GlyphContainer *g, int b, int e, FontFace *f, bool v)
+    : TTFTextImpl(d, g, b, e, f, v, Unmeasured()) {
+    measure();
+}
+
+TTFTextImpl::TTFTextImpl(const TTFTextImpl &line, int b)
+    : TTFTextImpl(line.canvas, line.glyphs, b, line.runEnd, line.face.get(), line.vertical,
+                  Unmeasured()) {}
+
+TTFTextImpl::TTFTextImpl(DrawArea *d, GlyphContainer *g, int b, int e, FontFace *f, bool v,
+                         Unmeasured)
     : canvas(d),
       glyphs(g),
       begin(b),
@@ -23,26 +33,6 @@ TTFTextImpl::TTFTextImpl(DrawArea *d, GlyphContainer *g, int b, int e, FontFace 
       end(e),
       face(f),
       vertical(v),
-      next(nullptr),
-      startX(0),
-      width(0),
-      ascent(0),
-      descent(0),
-      lineDistance(0),
-      matrix{1, 0, 0, 1},
-      underlineColor(0) {
-    glyphs->addRef();
-    measure();
-}
-
-TTFTextImpl::TTFTextImpl(const TTFTextImpl &line, int b)
-    : canvas(line.canvas),
-      glyphs(line.glyphs),
-      begin(b),
-      runEnd(line.runEnd),
-      end(line.runEnd),
-      face(line.face),
-      vertical(line.vertical),
       next(nullptr),
       startX(0),
       width(0),

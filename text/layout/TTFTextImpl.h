@@ -46,6 +46,9 @@ private:
     // The rest of `line` from glyph `begin` on: measured when it is laid out,
     // so that wrapping costs each glyph once, not once per line before it.
     TTFTextImpl(const TTFTextImpl &line, int begin);
+    struct Unmeasured {};
+    TTFTextImpl(DrawArea *d, GlyphContainer *glyphs, int begin, int end, FontFace *face,
+                bool vertical, Unmeasured);
     ~TTFTextImpl() override;
     // Drops a chain of continuations without recursing, one run at a time.
     static void releaseChain(TTFTextImpl *first);
