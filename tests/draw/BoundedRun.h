@@ -55,7 +55,13 @@ long boundedRunMiB(Work work, unsigned seconds, long addressSpaceMiB) {
             cap.rlim_cur = cap.rlim_max = (rlim_t)addressSpaceMiB << 20;
             setrlimit(RLIMIT_AS, &cap);
         }
-        bool ok = work();
+        // The child never returns to the test program, whatever the work throws.
+        bool ok = false;
+        try {
+            ok = work();
+        } catch (...) {
+            ok = false;
+        }
         struct rusage usage;
         getrusage(RUSAGE_SELF, &usage);
         long grown = ok ? (usage.ru_maxrss - before) / 1024 : -1;
