@@ -25,8 +25,9 @@ double atofCLocale(const char *s) {
     char separator = decimalSeparator();
     if (separator == '.' || !strchr(s, '.')) return strtod(s, nullptr);
     char local[1024];
-    strncpy(local, s, sizeof(local));
-    local[sizeof(local) - 1] = 0;
+    size_t n = strnlen(s, sizeof(local) - 1);
+    memcpy(local, s, n);
+    local[n] = 0;
     for (char *p = local; *p; ++p)
         if (*p == '.') *p = separator;
     return strtod(local, nullptr);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 #include "draw/list/MetaDraw.h"
 #include "draw/pixel/ColorWords.h"
@@ -38,6 +39,17 @@ int brightnessFactor(double brightness) {
 
 // The unit vector of an angle in degrees (0 to the right, 90 down), exact on
 // the axes.
+// A colour placed by numbers that are not finite is no colour.
+bool allFinite(std::initializer_list<double> values) {
+    for (double v : values)
+        if (!std::isfinite(v)) return false;
+    return true;
+}
+
+bool allFinite(const double m[6]) {
+    return m && allFinite({m[0], m[1], m[2], m[3], m[4], m[5]});
+}
+
 void unitVector(double angle, double &dx, double &dy) {
     dx = qlx::cosDegree(angle);
     dy = qlx::cosDegree(angle - 90);
@@ -375,6 +387,7 @@ int ColorModel::radialGradientColor(int cx, int cy, int rx, int ry, IntArray col
 
 int ColorModel::angleGradientColor(double cx, double cy, double startAngle, double endAngle,
                                    double innerRadius, double outerRadius, IntArray colors) {
+    if (!allFinite({cx, cy, startAngle, endAngle, innerRadius, outerRadius})) return kTransparent;
     std::vector<int> pairs;
     if (!toGradientPairs(colors, pairs)) return kTransparent;
     if (colors.len < 4 || startAngle == endAngle) return pairs[1];
@@ -396,6 +409,7 @@ int ColorModel::lightingColor(int color, IntArray lighting, double angle) {
 
 int ColorModel::linearLightingColor(double x1, double y1, double x2, double y2, int color,
                                     IntArray lighting, bool periodic) {
+    if (!allFinite({x1, y1, x2, y2})) return kTransparent;
     return makeLighting(color, lighting, [&](int handle, int word, IntArray pairs) {
         metaDraw->defineLinearLighting(handle, word, x1, y1, x2, y2, periodic, pairs);
     });
@@ -409,6 +423,7 @@ int ColorModel::radialLightingColor(int cx, int cy, int rx, int ry, int color, I
 
 int ColorModel::relativeLightingColor(double x1, double y1, double x2, double y2, int color,
                                       IntArray lighting, bool periodic) {
+    if (!allFinite({x1, y1, x2, y2})) return kTransparent;
     return makeLighting(color, lighting, [&](int handle, int word, IntArray pairs) {
         metaDraw->defineRelativeLighting(handle, word, x1, y1, x2, y2, periodic, pairs);
     });
@@ -459,18 +474,19 @@ int ColorModel::yZoneColor(int boundary, int topColor, int bottomColor) {
 }
 
 int ColorModel::transformedColor(int color, const double m[6]) {
-    if (!m) return kTransparent;
+    if (!allFinite(m)) return kTransparent;
     return makeFromColor(
         color, [&](int handle, int word) { metaDraw->defineTransformed(handle, word, m); });
 }
 
 int ColorModel::preciseTransformColor(int color, const double m[6]) {
-    if (!m) return kTransparent;
+    if (!allFinite(m)) return kTransparent;
     return makeFromColor(
         color, [&](int handle, int word) { metaDraw->definePreciseTransform(handle, word, m); });
 }
 
 int ColorModel::rectColor(double x1, double y1, double x2, double y2, int color) {
+    if (!allFinite({x1, y1, x2, y2})) return kTransparent;
     return makeFromColor(
         color, [&](int handle, int word) { metaDraw->defineRect(handle, x1, y1, x2, y2, word); });
 }

@@ -77,6 +77,10 @@ int DrawArea::getFileLimit() {
     return GlobalResources::getFileLimit();
 }
 
+int DrawArea::getGlyphCacheLimit() {
+    return GlobalResources::getGlyphCacheLimit();
+}
+
 int DrawArea::getDefaultTextAA() {
     return GlobalResources::getDefaultTextAA();
 }

@@ -308,11 +308,16 @@ public:
     static void getImageSize(int length, const char *data, int *width, int *height);
 
     static char *getGlobalResource(const char *id, int *length);
+    // Valid until the entry is replaced; a canvas's getDrawAreaResource holds
+    // what it hands out.
     static DrawArea *getGlobalDrawAreaResource(const char *id);
     static void setGlobalResource(const char *id, const char *data, int length);
     static void setGlobalDrawAreaResource(const char *id, DrawArea *d);
     static int getPixelLimit();
     static int getFileLimit();
+    // Bytes of rendered glyphs that no text holds kept for later texts: the
+    // setting "@GlyphCacheLimit", 64 MB by default; 0 or less keeps them all.
+    static int getGlyphCacheLimit();
     static int getDefaultTextAA();
     // A colour with its brightness scaled by k / 1024.
     static int adjustBrightnessARGB(int color, int k);

@@ -8,6 +8,7 @@
 
 #include "draw/canvas/CanvasTextService.h"
 #include "draw/canvas/CurveFlattener.h"
+#include "draw/canvas/GlobalResources.h"
 #include "draw/canvas/RaisedEffect.h"
 #include "draw/canvas/ShapePath.h"
 #include "draw/canvas/SubDrawArea.h"
@@ -60,6 +61,21 @@ const Ending kEndings[] = {
     {".svgz", kOutSVGZ}, {".agf", kOutAGF}, {".pdf", kOutPDF},
 };
 
+// A decimal number, possibly negative, that is the whole text.  Numbers too
+// large for the table come out as -1: they name no entry either.
+bool parseFontIndex(const char *text, long *index) {
+    bool negative = *text == '-';
+    const char *p = negative ? text + 1 : text;
+    if (!*p) return false;
+    long n = 0;
+    for (; *p; ++p) {
+        if (*p < '0' || *p > '9') return false;
+        if (n <= kMaxFontTable) n = n * 10 + (*p - '0');
+    }
+    *index = negative || n > kMaxFontTable ? -1 : n;
+    return true;
+}
+
 bool endsWithNoCase(const char *s, const char *ending) {
     size_t n = strlen(s), m = strlen(ending);
     return n >= m && strcasecmp(s + n - m, ending) == 0;
@@ -92,6 +108,7 @@ DrawAreaImpl::DrawAreaImpl()
 
 DrawAreaImpl::~DrawAreaImpl() {
     for (auto &r : drawAreaResources) r.second->destroy();
+    for (DrawArea *d : heldShared) d->destroy();
     for (DrawAreaObject *obj : objects) delete obj;
     for (auto &attr : namedAttrs) delete attr.second;
     delete bitmap;
@@ -99,11 +116,12 @@ DrawAreaImpl::~DrawAreaImpl() {
 }
 
 void DrawAreaImpl::retain() {
-    ++refCount;
+    refCount.fetch_add(1, std::memory_order_relaxed);
 }
 
 void DrawAreaImpl::destroy() {
-    if (--refCount <= 0) delete this;
+    // A shared canvas may lose its last reference on any thread.
+    if (refCount.fetch_sub(1, std::memory_order_acq_rel) <= 1) delete this;
 }
 
 // ---- Raster on demand ----
@@ -113,6 +131,7 @@ DrawBMP *DrawAreaImpl::createRaster() {
 }
 
 void DrawAreaImpl::applyRasterSettings() {
+    bitmap->setPixelLimit(getPixelLimit());
     bitmap->setAntiAlias(antiAliasShape != 0, antiAliasText);
     bitmap->setInterlace(interlace);
     bitmap->setTransparentColor(transparentColor);
@@ -126,7 +145,14 @@ void DrawAreaImpl::destroyRaster() {
     replayPos = 0;
 }
 
+bool DrawAreaImpl::isRasterAllowed() const {
+    int limit = getPixelLimit();
+    return limit <= 0 || (long long)width * height <= limit;
+}
+
 DrawBMP *DrawAreaImpl::getRaster() {
+    // No pixels rather than pixels of another size than the canvas says.
+    if (!isRasterAllowed()) return nullptr;
     // A second round only when the list says the raster can't be continued.
     for (int round = 0; round < 2; ++round) {
         if (!bitmap) bitmap = createRaster();
@@ -140,7 +166,7 @@ DrawBMP *DrawAreaImpl::getRaster() {
         }
         break;
     }
-    return bitmap;
+    return bitmap && !bitmap->hasRefusedSize() ? bitmap : nullptr;
 }
 
 // ---- Dynamic layer ----
@@ -852,9 +878,9 @@ char *DrawAreaImpl::readFile(const char *path, int limit, int *length) {
 char *DrawAreaImpl::readResource(const char *id, int *length) {
     char *data = getResourceData(id, length);
     if (data) return data;
-    DrawArea *d = getDrawAreaResource(id);
-    if (!d) return nullptr;
-    MemBlock png = d->outPNG2();
+    auto own = drawAreaResources.find(id);
+    if (own == drawAreaResources.end()) return GlobalResources::encodeDrawArea(id, length);
+    MemBlock png = own->second->outPNG2();
     if (png.len <= 0) return nullptr;
     data = (char *)malloc((size_t)png.len);
     if (!data) return nullptr;
@@ -1125,12 +1151,9 @@ const char *DrawAreaImpl::resolveFont(const char *name) {
     static const char *const kStyleNames[4] = {"normal", "bold", "italic", "boldItalic"};
     for (int i = 0; i < 4; ++i)
         if (strcmp(name, kStyleNames[i]) == 0) return defaultFonts[i].c_str();
-    if (strncmp(name, "font", 4) == 0 && name[4]) {
-        long n = 0;
-        const char *p = name + 4;
-        for (; *p >= '0' && *p <= '9' && n < kMaxFontTable; ++p) n = n * 10 + (*p - '0');
-        if (!*p && n < (long)defaultFonts.size()) return defaultFonts[n].c_str();
-    }
+    long index = 0;
+    if (strncmp(name, "font", 4) == 0 && parseFontIndex(name + 4, &index))
+        return defaultFonts[index >= 0 && index < (long)defaultFonts.size() ? index : 0].c_str();
     return name;
 }
 
@@ -1206,7 +1229,16 @@ char *DrawAreaImpl::getResourceData(const char *id, int *length) {
 DrawArea *DrawAreaImpl::getDrawAreaResource(const char *id) {
     if (!id || !*id) return nullptr;
     auto it = drawAreaResources.find(id);
-    return it != drawAreaResources.end() ? it->second : getGlobalDrawAreaResource(id);
+    if (it != drawAreaResources.end()) return it->second;
+    // A shared canvas handed out stays alive as long as this canvas, whatever
+    // another thread does to the global entry meanwhile.
+    DrawArea *shared = GlobalResources::acquireDrawArea(id);
+    if (!shared) return nullptr;
+    if (std::find(heldShared.begin(), heldShared.end(), shared) != heldShared.end())
+        shared->destroy();
+    else
+        heldShared.push_back(shared);
+    return shared;
 }
 
 DrawArea *DrawAreaImpl::createSubDrawArea(int w, int h) {

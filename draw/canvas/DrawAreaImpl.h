@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <map>
 #include <string>
 #include <utility>
@@ -303,6 +304,8 @@ protected:
 private:
     void warp(ImageOps::ImageWarp::Kind kind, int bgColor, double period = 0, double amplitude = 0,
               double phase = 0);
+    // Whether the stated size is within the pixel limit.
+    bool isRasterAllowed() const;
     bool isLineVisible(double x1, double y1, double x2, double y2) const;
     void resetClip();
     int limitLineWidth(int lineWidth) const;
@@ -319,13 +322,15 @@ private:
     bool writeFile(const char *path, MemBlock block);
     bool writeVector(qlx::ostream &out, int imageType, const char *options);
 
-    int refCount;
+    std::atomic<int> refCount;
     MetaDraw *metaDraw;
     DrawBMP *bitmap;
     int replayPos;
     std::vector<DrawAreaObject *> objects;
     std::map<std::string, DrawArea *> drawAreaResources;
     std::map<std::string, std::vector<char>> dataResources;
+    // Global canvases this canvas handed out, each held with a reference.
+    std::vector<DrawArea *> heldShared;
     qlx::ostrstream memOut;
     int width, height;
     int dynColorMark, derivedColorMark, dynamicLayerPos;

@@ -15,6 +15,8 @@
 namespace {
 
 qlx::Mutex resourceMutex;
+// Held while a shared canvas is read: reading replays its list into its raster.
+qlx::Mutex sharedReadMutex;
 std::map<std::string, std::vector<char>> dataMap;
 std::map<std::string, DrawArea *> drawAreaMap;
 std::map<std::string, std::string> settings;
@@ -50,6 +52,9 @@ CachedSetting pixelLimit("@PixelLimit", [](const char *text, bool) {
 });
 CachedSetting fileLimit("@FileLimit", [](const char *text, bool) {
     return GlobalResources::parseLimit(text, 200000000);
+});
+CachedSetting glyphCacheLimit("@GlyphCacheLimit", [](const char *text, bool) {
+    return GlobalResources::parseLimit(text, 64 << 20);
 });
 CachedSetting defaultTextAA("@TextAA", [](const char *text, bool) {
     return TextAntiAlias::parseSetting(text);
@@ -108,6 +113,34 @@ DrawArea *GlobalResources::getDrawArea(const char *id) {
     return it == drawAreaMap.end() ? nullptr : it->second;
 }
 
+DrawArea *GlobalResources::acquireDrawArea(const char *id) {
+    if (!id || !*id) return nullptr;
+    qlx::MutexLock lock(resourceMutex);
+    auto it = drawAreaMap.find(id);
+    if (it == drawAreaMap.end()) return nullptr;
+    it->second->retain();
+    return it->second;
+}
+
+char *GlobalResources::encodeDrawArea(const char *id, int *length) {
+    *length = 0;
+    DrawArea *d = acquireDrawArea(id);
+    if (!d) return nullptr;
+    char *copy = nullptr;
+    {
+        qlx::MutexLock lock(sharedReadMutex);
+        MemBlock png = d->outPNG2();
+        copy = png.len > 0 ? (char *)malloc((size_t)png.len) : nullptr;
+        if (copy) {
+            memcpy(copy, png.data, (size_t)png.len);
+            *length = png.len;
+        }
+    }
+    // Outside the lock: the last reference may go here, and the canvas with it.
+    d->destroy();
+    return copy;
+}
+
 void GlobalResources::setSetting(const char *name, const char *value) {
     if (!name) return;
     qlx::MutexLock lock(resourceMutex);
@@ -132,6 +165,10 @@ int GlobalResources::getPixelLimit() {
 
 int GlobalResources::getFileLimit() {
     return fileLimit.get();
+}
+
+int GlobalResources::getGlyphCacheLimit() {
+    return glyphCacheLimit.get();
 }
 
 int GlobalResources::getDefaultTextAA() {

@@ -22,6 +22,8 @@ namespace {
 const int kInitialWords = 10000;
 // Deepest chain of nested lists that is followed; deeper means a loop.
 const int kMaxNesting = 64;
+// A line batch keeps its buffer for the next one up to this many coordinates.
+const size_t kKeptBatchDoubles = 1 << 16;
 // Largest scaled raster area, in pixels, that the scaling interpreter makes.
 const double kMaxScaledArea = 33554431;
 
@@ -47,11 +49,8 @@ MetaDrawImpl::MetaDrawImpl(MetaDrawOwner *owner)
       curRecord(0),
       frozen(false),
       frozenPos(0),
-      lineColor(0),
-      lineWidth(0),
       lastX(0),
       lastY(0),
-      multiStyle(false),
       flushing(false),
       brushDepth(0),
       markPos(-1),
@@ -503,20 +502,25 @@ void MetaDrawImpl::loadStream(char *data, int length, int imageType, int width, 
 // ---- line batching
 
 void MetaDrawImpl::addLineStyle(int color, int width) {
-    if (!lineBatch.empty()) multiStyle = true;
-    lineBatch.push_back(MetaLineEntry{true, color, width, 0, 0});
-    lineColor = color;
-    lineWidth = width;
+    // A style holds for the segments that end at its point and after, so one
+    // that no segment followed gives way to the new one.
+    int at = batchPointCount() <= 1 ? 0 : batchPointCount();
+    while (!batchStyles.empty() && batchStyles.back().point >= at) batchStyles.pop_back();
+    if (!batchStyles.empty() && batchStyles.back().color == color &&
+        batchStyles.back().width == width)
+        return;
+    batchStyles.push_back(LineStyleMark{at, color, width});
 }
 
 void MetaDrawImpl::moveLineTo(int color, int width, double x, double y) {
     int c = registerColor(color);
-    if (!lineBatch.empty() && (x != lastX || y != lastY)) flushLines();
-    if (lineBatch.empty()) {
+    if (!batchStyles.empty() && (x != lastX || y != lastY)) flushLines();
+    bool empty = batchStyles.empty();
+    if (empty || c != batchStyles.back().color || width != batchStyles.back().width)
         addLineStyle(c, width);
-        lineBatch.push_back(MetaLineEntry{false, 0, 0, x, y});
-    } else if (c != lineColor || width != lineWidth) {
-        addLineStyle(c, width);
+    if (empty) {
+        batchPoints.push_back(x);
+        batchPoints.push_back(y);
     }
     lastX = x;
     lastY = y;
@@ -524,40 +528,41 @@ void MetaDrawImpl::moveLineTo(int color, int width, double x, double y) {
 
 void MetaDrawImpl::addLine(int color, int width, double x1, double y1, double x2, double y2) {
     moveLineTo(color, width, x1, y1);
-    lineBatch.push_back(MetaLineEntry{false, 0, 0, x2, y2});
+    batchPoints.push_back(x2);
+    batchPoints.push_back(y2);
     lastX = x2;
     lastY = y2;
 }
 
 void MetaDrawImpl::flushLines() {
-    if (flushing || lineBatch.empty()) return;
+    if (flushing || batchStyles.empty()) return;
     flushing = true;
-    // A style without a point draws nothing.
-    if (lineBatch.size() >= 2) writeLineBatch();
-    lineBatch.clear();
-    multiStyle = false;
+    // A lone point draws nothing, nor does a style after the last point.
+    while (batchStyles.size() > 1 && batchStyles.back().point >= batchPointCount())
+        batchStyles.pop_back();
+    if (batchPointCount() >= 2) writeLineBatch();
+    // A long batch gives its memory back: the stream holds the points now.
+    if (batchPoints.capacity() > kKeptBatchDoubles)
+        std::vector<double>().swap(batchPoints);
+    else
+        batchPoints.clear();
+    batchStyles.clear();
     flushing = false;
 }
 
 void MetaDrawImpl::writeLineBatch() {
-    if (!multiStyle) {
-        std::vector<double> &xy = lineScratch;  // kept: no allocation per batch
-        xy.clear();
-        for (size_t i = 1; i < lineBatch.size(); ++i) {
-            xy.push_back(lineBatch[i].x);
-            xy.push_back(lineBatch[i].y);
-        }
-        writeRecord<kOpPolyLine>(lineBatch[0].color, lineBatch[0].width,
-                                 DoubleArray(xy.data(), (int)xy.size()));
+    if (batchStyles.size() == 1) {
+        writeRecord<kOpPolyLine>(batchStyles[0].color, batchStyles[0].width,
+                                 DoubleArray(batchPoints.data(), (int)batchPoints.size()));
         return;
     }
     beginRecord(kOpMultiLine);
-    for (const MetaLineEntry &e : lineBatch) {
-        if (e.isStyle) {
-            putSlots(words, (int)kLineItemStyle, e.color, e.width);
-        } else {
-            putSlots(words, (int)kLineItemCoor, e.x, e.y);
-        }
+    size_t style = 0;
+    for (int i = 0; i < batchPointCount(); ++i) {
+        for (; style < batchStyles.size() && batchStyles[style].point == i; ++style)
+            putSlots(words, (int)kLineItemStyle, batchStyles[style].color,
+                     batchStyles[style].width);
+        putSlots(words, (int)kLineItemCoor, batchPoints[2 * i], batchPoints[2 * i + 1]);
     }
 }
 
@@ -574,8 +579,8 @@ int MetaDrawImpl::markDynamicLayer() {
 int MetaDrawImpl::rollback(DrawBackEnd *raster) {
     if (markPos < 0) return 0;
     bool restored = raster && raster->restoreSnapshot();
-    lineBatch.clear();
-    multiStyle = false;
+    batchPoints.clear();
+    batchStyles.clear();
     if (markPos < (int)words.size()) words.resize(markPos);
     if (frozen && frozenPos > markPos) frozenPos = markPos;
     curRecord = markPos;

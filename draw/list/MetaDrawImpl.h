@@ -154,6 +154,7 @@ private:
     void freeSymbol(const Symbol &symbol);
     void writeLineBatch();
     void addLineStyle(int color, int width);
+    int batchPointCount() const { return (int)batchPoints.size() / 2; }
     void writeLighting(unsigned opcode, int handle, int color, const double box[4], bool periodic,
                        IntArray lighting);
     double playScale() const;
@@ -170,11 +171,16 @@ private:
     bool frozen;
     int frozenPos;
 
-    std::vector<MetaLineEntry> lineBatch;
-    std::vector<double> lineScratch;
-    int lineColor, lineWidth;
+    // The pending line batch: its points, x and y interleaved, and the styles,
+    // each starting at a point.  Kept apart so that a long polyline costs two
+    // doubles a point and goes into the stream as it stands.
+    struct LineStyleMark {
+        int point;
+        int color, width;
+    };
+    std::vector<double> batchPoints;
+    std::vector<LineStyleMark> batchStyles;
     double lastX, lastY;
-    bool multiStyle;
     bool flushing;
 
     std::map<int, Symbol> symbols;

@@ -60,6 +60,12 @@ public:
 
     virtual void setAntiAlias(bool shapeAntiAlias, int textAntiAlias) = 0;
     virtual bool getShapeAntiAlias() const = 0;
+    // True when a record asked for an image larger than a raster can hold: the
+    // pixels are then not the image the list describes.
+    virtual bool hasRefusedSize() const = 0;
+    // Images above this many pixels are refused; 0 or less leaves only the
+    // raster's own limit.
+    virtual void setPixelLimit(long long limit) = 0;
     virtual int getTextAntiAlias() const = 0;
     virtual void setInterlace(int value) = 0;
     virtual void setTransparentColor(int color) = 0;

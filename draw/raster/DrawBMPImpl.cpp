@@ -11,8 +11,8 @@
 #include "draw/codec/ImageSniffer.h"
 #include "draw/pixel/PixelBlend.h"
 #include "draw/raster/AAShape.h"
+#include "draw/raster/CoverageGrid.h"
 #include "draw/raster/GlyphRaster.h"
-#include "draw/raster/PlotCollector.h"
 #include "draw/raster/brush/GradientBrushes.h"
 #include "draw/raster/brush/LightingBrushes.h"
 #include "draw/raster/brush/PatternBrushes.h"
@@ -43,11 +43,6 @@ private:
     DrawBMPImpl *raster;
     int color;
 };
-
-void limitSize(int &w, int &h) {
-    w = std::max(w, 1), h = std::max(h, 1);
-    if ((long long)w * h > kMaxPixels) w = h = 1;
-}
 
 }  // namespace
 
@@ -91,7 +86,9 @@ DrawBMPImpl::DrawBMPImpl(MetaDraw *metaDraw, DrawBMPImpl *parent)
       curX(0),
       curY(0),
       colorDepth(0),
-      outlineCollector(nullptr) {
+      outlineCollector(nullptr),
+      sizeRefused(false),
+      pixelLimit(kMaxPixels) {
     if (parent) shapeAntiAlias = parent->shapeAntiAlias, textAntiAlias = parent->textAntiAlias;
 }
 
@@ -260,8 +257,28 @@ void DrawBMPImpl::resetClip() {
     clipLeft = 0, clipTop = 0, clipRight = width - 1, clipBottom = height - 1;
 }
 
+void DrawBMPImpl::setPixelLimit(long long limit) {
+    pixelLimit = limit > 0 ? std::min(limit, kMaxPixels) : kMaxPixels;
+}
+
+bool DrawBMPImpl::fitsBuffer(long long w, long long h) const {
+    return w * h <= pixelLimit;
+}
+
+bool DrawBMPImpl::limitSize(int &w, int &h) const {
+    w = std::max(w, 1), h = std::max(h, 1);
+    if (fitsBuffer(w, h)) return true;
+    w = h = 1;
+    return false;
+}
+
+void DrawBMPImpl::noteSize(bool made) {
+    // A symbol's size is its own business: only the image itself counts.
+    if (symbolStack.empty()) sizeRefused = !made;
+}
+
 void DrawBMPImpl::allocate(int w, int h, int fill) {
-    limitSize(w, h);
+    noteSize(limitSize(w, h));
     superPixels.clear();
     width = w, height = h;
     pixels.assign((size_t)w * h, isInvisible((unsigned)fill) ? kTransparent : fill);
@@ -317,7 +334,7 @@ void DrawBMPImpl::setBgColor(int color) {
 }
 
 void DrawBMPImpl::resize(int w, int h) {
-    limitSize(w, h);
+    if (!limitSize(w, h)) noteSize(false);
     if (w == width && h == height) return;
     PixelBuffer out = ImageOps::resize(copyBuffer(), w, h, ImageOps::kLinearFilter, 1.0);
     takeBuffer(out);
@@ -365,13 +382,16 @@ void DrawBMPImpl::setBgRoundedClip(int r1, int r2, int r3, int r4, int color) {
 
 void DrawBMPImpl::setBgDropShadow(int offsetX, int offsetY, int blurRadius, int, int color) {
     if (pixels.empty()) return;
-    int b = std::min(std::max(blurRadius, 0), 4096);
-    offsetX = std::max(std::min(offsetX, 4096), -4096);
-    offsetY = std::max(std::min(offsetY, 4096), -4096);
-    int left = std::max(0, b - offsetX), top = std::max(0, b - offsetY);
-    int w = width + left + std::max(0, b + offsetX), h = height + top + std::max(0, b + offsetY);
-    limitSize(w, h);
-    if (w < width + left || h < height + top) return;
+    // The image grows by what the canvas said, or the image is refused.
+    long long b = blurRadius;
+    long long left = std::max(0LL, b - offsetX), top = std::max(0LL, b - offsetY);
+    long long grownW = width + left + std::max(0LL, b + offsetX);
+    long long grownH = height + top + std::max(0LL, b + offsetY);
+    if (!fitsBuffer(grownW, grownH)) {
+        noteSize(false);
+        return;
+    }
+    int w = (int)grownW, h = (int)grownH;
     std::vector<int> mask((size_t)w * h, 0);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) {
@@ -380,7 +400,7 @@ void DrawBMPImpl::setBgDropShadow(int offsetX, int offsetY, int blurRadius, int,
                 mask[(size_t)my * w + mx] =
                     255 - (int)((unsigned)pixels[(size_t)y * width + x] >> 24);
         }
-    ImageOps::boxBlur(mask, w, h, b);
+    ImageOps::boxBlur(mask, w, h, (int)std::max(0LL, b));
     PixelBuffer out(w, h, kTransparent);
     unsigned shade = isDynamicHandle(color) ? (unsigned)kTransparent : (unsigned)color;
     if (!isInvisible(shade)) {
@@ -421,15 +441,12 @@ void DrawBMPImpl::polyLine(int color, int lineWidth, DoubleArray points) {
 }
 
 void DrawBMPImpl::strokeThin(const double *xy, int pointCount, int color) {
-    LineRasterizer walker(clipLeft, clipTop, clipRight, clipBottom, shapeAntiAlias);
     if (pointCount == 2) {
         drawThinLine(xy[0], xy[1], xy[2], xy[3], color);
         return;
     }
-    PlotCollector collector(this, color);
-    for (int i = 0; i + 1 < pointCount; ++i)
-        walker.drawJoined(xy[2 * i], xy[2 * i + 1], xy[2 * i + 2], xy[2 * i + 3], &collector,
-                          i > 0);
+    CoverageGrid collector(this, color, clipLeft, clipTop, clipRight, clipBottom);
+    collector.addPolyline(xy, pointCount, shapeAntiAlias, !isDynamicHandle(color));
     collector.flush(this);
 }
 
@@ -518,8 +535,8 @@ DrawBMP::BMPShape *DrawBMPImpl::createShape() {
 
 void DrawBMPImpl::paintShape(AAShape &s, int color, bool inset, bool keepOutline) {
     // Edges share their end pixels: gather the outlines so a joint is painted once.
-    PlotCollector collector(this, kTransparent);
-    PlotCollector *saved = outlineCollector;
+    CoverageGrid collector(this, kTransparent, clipLeft, clipTop, clipRight, clipBottom);
+    CoverageGrid *saved = outlineCollector;
     outlineCollector = &collector;
     s.paintOn(this, color, inset, keepOutline);
     outlineCollector = saved;
@@ -801,7 +818,7 @@ void DrawBMPImpl::mergeBitMap(int, IntArray pixels, int w, int x, int y) {
 }
 
 void DrawBMPImpl::loadStream(int, const char *data, int length, int imageType, int w, int h) {
-    limitSize(w, h);
+    noteSize(limitSize(w, h));
     int dw = w, dh = h;
     int *decoded =
         decodeHook && data && length > 0 ? decodeHook(data, length, imageType, &dw, &dh) : nullptr;

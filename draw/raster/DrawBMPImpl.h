@@ -10,7 +10,7 @@
 #include "draw/raster/scan/ShapeTarget.h"
 
 class AAShape;
-class PlotCollector;
+class CoverageGrid;
 
 // The raster: one pixel buffer, the clip, the dynamic colours as brushes, and
 // the machinery that turns records into anti-aliased pixels.
@@ -34,6 +34,8 @@ public:
         shapeAntiAlias = shape, textAntiAlias = text;
     }
     bool getShapeAntiAlias() const override { return shapeAntiAlias; }
+    bool hasRefusedSize() const override { return sizeRefused; }
+    void setPixelLimit(long long limit) override;
     int getTextAntiAlias() const override { return textAntiAlias; }
     void setInterlace(int value) override { interlace = value; }
     void setTransparentColor(int color) override { transparentColor = color; }
@@ -157,6 +159,10 @@ private:
     int *pixelAt(int x, int y) { return pixels.data() + (size_t)y * width + x; }
     void store(int *p, unsigned c);
     void resetClip();
+    void noteSize(bool made);
+    bool fitsBuffer(long long w, long long h) const;
+    // A size beyond the limit becomes 1 by 1; false then.
+    bool limitSize(int &w, int &h) const;
     void allocate(int w, int h, int fill);
     void takeBuffer(PixelBuffer &buffer);
     PixelBuffer copyBuffer() const;
@@ -189,5 +195,8 @@ private:
     std::map<int, PixelBuffer> symbols;
     std::vector<Surface> symbolStack;
     int colorDepth;
-    PlotCollector *outlineCollector;
+    CoverageGrid *outlineCollector;
+    // A record asked for an image larger than the buffer can hold.
+    bool sizeRefused;
+    long long pixelLimit;
 };

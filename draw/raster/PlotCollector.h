@@ -20,10 +20,15 @@ public:
     void flush(ShapeTarget *target);
     bool isEmpty() const { return plots.empty(); }
 
-private:
     struct Plot {
         int x, y, level, color;
     };
+    // The plots in walking order.
+    const std::vector<Plot> &getPlots() const { return plots; }
+    // Forgets the plots and gives their memory back.
+    void clear() { std::vector<Plot>().swap(plots); }
+
+private:
     BrushHost *host;
     int color;
     std::vector<Plot> plots;

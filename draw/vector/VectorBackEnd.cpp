@@ -285,10 +285,16 @@ void VectorBackEnd::polyLine(int color, int width, DoubleArray points) {
             if (len > 0) xy[i] += kCentre * dx / len, xy[i + 1] += kCentre * dy / len;
         }
     }
-    VectorPath path;
-    for (int i = 0; i < n; ++i) path.lineTo(xy[2 * i] + kCentre, xy[2 * i + 1] + kCentre);
-    path.form = VectorPath::kPolyline;
-    paintPath(path, kTransparent, color, style);
+    // Very long lines go out in pieces that share their end points: XML readers
+    // refuse attributes of more than about ten million bytes.
+    const int kMaxPiece = 50000;
+    for (int first = 0; first < n - 1; first += kMaxPiece - 1) {
+        int end = std::min(n, first + kMaxPiece);
+        VectorPath path;
+        for (int i = first; i < end; ++i) path.lineTo(xy[2 * i] + kCentre, xy[2 * i + 1] + kCentre);
+        path.form = VectorPath::kPolyline;
+        paintPath(path, kTransparent, color, style);
+    }
 }
 
 void VectorBackEnd::multiLine(const MetaLineEntry *items, int count) {

@@ -1,5 +1,6 @@
 // What the raster makes of shapes, lines, dynamic colours and effect words.
 #include <cmath>
+#include <vector>
 
 #include "draw/canvas/ColorEffects.h"
 #include "draw/canvas/DrawArea.h"
@@ -101,12 +102,42 @@ bool effects(const std::string &path) {
     return save(d, path);
 }
 
+// A million points of a noisy random walk in one poly-line, with its trend:
+// the line is painted in memory the size of the canvas, whatever its length.
+bool millionPoints(const std::string &path) {
+    const int n = 1000000, window = 20000;
+    DrawArea *d = canvas(800, 300);
+    std::vector<double> x(n), y(n), tx, ty;
+    unsigned state = 7;
+    double level = 150, sum = 0;
+    for (int i = 0; i < n; ++i) {
+        state = state * 1103515245u + 12345u;
+        double noise = ((state >> 8) & 0xFFFF) / 65535.0 - 0.5;
+        level += 2 * noise + 0.0002 * (150 - level);
+        x[i] = 20 + 760.0 * i / (n - 1);
+        y[i] = level + 70 * noise * (0.3 + 0.7 * std::fabs(std::sin(i * 3 * kPi / n)));
+        sum += level;
+        if ((i + 1) % window == 0) {
+            tx.push_back(x[i - window / 2]);
+            ty.push_back(sum / window);
+            sum = 0;
+        }
+    }
+    d->rawPolyline(DoubleArray(x.data(), n), DoubleArray(y.data(), n), 0x3366cc, 1);
+    d->rawPolyline(DoubleArray(tx.data(), (int)tx.size()), DoubleArray(ty.data(), (int)ty.size()),
+                   0xcc3333, 3);
+    return save(d, path);
+}
+
 }  // namespace
 
 VISTREL_GALLERY_SAMPLE("Raster", "Anti-aliased circle, ring, star, pie sectors and a line fan",
                        "raster_shapes.png", shapes);
 VISTREL_GALLERY_SAMPLE("Raster", "Line widths, a translucent wide poly-line and dash patterns",
                        "raster_lines.png", lines);
+VISTREL_GALLERY_SAMPLE("Raster",
+                       "A noisy series of a million points in one poly-line, and its trend",
+                       "raster_million_points.png", millionPoints);
 VISTREL_GALLERY_SAMPLE("Raster",
                        "Dynamic colours: gradients, angle gradient, lighting, brushed and "
                        "radial lighting, gold",

@@ -40,3 +40,24 @@ static bool textMarkup(const std::string &path) {
 
 VISTREL_GALLERY_SAMPLE("Text", "Inline mark-up, blocks, wrapping and rotation", "text_markup.png",
                        textMarkup);
+
+// A letter far larger than its canvas, and a long text wrapped in a narrow
+// column and cut after twelve lines: neither keeps memory once drawn.
+static bool textLarge(const std::string &path) {
+    CanvasText::install();
+    DrawArea *d = DrawArea::create();
+    d->setSize(420, 300, 0xffffff);
+    d->text4("g", "arial.ttf", 0, 1200, 0, 0, false, -150, -520, 0xd9e6f5, 7);
+    std::string text;
+    while (text.size() < 200000) text += "Quarterly revenue by region and product line. ";
+    d->textBlock(text.c_str(), "times.ttf", 0, 10, 0, 0, 250, 20, 150, 12, 0x1f3a5f, 7);
+    d->text4("1200 pt", "arial.ttf", 0, 12, 0, 0, false, 20, 270, 0x666666, 7);
+    bool ok = d->out(path.c_str());
+    d->destroy();
+    return ok;
+}
+
+VISTREL_GALLERY_SAMPLE("Text",
+                       "A 1200-point letter on a small canvas, and 200,000 characters wrapped in "
+                       "a column and cut after twelve lines",
+                       "text_large.png", textLarge);

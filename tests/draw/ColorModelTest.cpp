@@ -283,6 +283,31 @@ TEST_F(ColorModelTest, ConstructorsRejectBadArguments) {
     EXPECT_EQ(model.preciseTransformColor(kNoColor, m), kTransparent);
     EXPECT_EQ(model.rectColor(0, 0, 9, 9, kTransparent), kTransparent);
     EXPECT_EQ(model.relativeRadialGradient(IntArray(pairs, 4), NAN, 100, 100), kTransparent);
+
+    // A number that is not finite, wherever it stands, makes no colour.
+    for (int k = 0; k < 6; ++k) {
+        double a[6] = {50, 50, 0, 90, 0, 40};
+        a[k] = k % 2 ? NAN : INFINITY;
+        EXPECT_EQ(model.angleGradientColor(a[0], a[1], a[2], a[3], a[4], a[5], IntArray(pairs, 4)),
+                  kTransparent)
+            << k;
+        double t[6] = {1, 0, 0, 0, 1, 0};
+        t[k] = NAN;
+        EXPECT_EQ(model.transformedColor(0x123456, t), kTransparent) << k;
+        EXPECT_EQ(model.preciseTransformColor(0x123456, t), kTransparent) << k;
+        if (k >= 4) continue;
+        EXPECT_EQ(model.rectColor(a[0], a[1], a[2], a[3], 0x123456), kTransparent) << k;
+        EXPECT_EQ(model.linearLightingColor(a[0], a[1], a[2], a[3], 0x123456, IntArray(lighting, 4),
+                                            false),
+                  kTransparent)
+            << k;
+        EXPECT_EQ(model.relativeLightingColor(a[0], a[1], a[2], a[3], 0x123456,
+                                              IntArray(lighting, 4), false),
+                  kTransparent)
+            << k;
+    }
+    EXPECT_TRUE(ColorWord::isDynamicHandle(
+        model.angleGradientColor(50, 50, 0, 90, 0, 40, IntArray(pairs, 4))));
 }
 
 TEST_F(ColorModelTest, MapsColourArrays) {

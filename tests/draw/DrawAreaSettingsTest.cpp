@@ -54,7 +54,12 @@ TEST(DrawAreaSettings, FontTable) {
     EXPECT_STREQ("arial.ttf", c->resolveFont("font0"));
     EXPECT_STREQ("font", c->resolveFont("font"));
     EXPECT_STREQ("font1x", c->resolveFont("font1x"));
-    EXPECT_STREQ("font9", c->resolveFont("font9"));
+    // Beyond the table, or negative: the first entry.
+    EXPECT_STREQ("arial.ttf", c->resolveFont("font9"));
+    EXPECT_STREQ("arial.ttf", c->resolveFont("font-1"));
+    EXPECT_STREQ("arial.ttf", c->resolveFont("font99999999999999999999"));
+    EXPECT_STREQ("font-", c->resolveFont("font-"));
+    EXPECT_STREQ("font+1", c->resolveFont("font+1"));
     EXPECT_STREQ("Bold", c->resolveFont("Bold"));
     const char *file = "bold.ttf";
     EXPECT_EQ(file, c->resolveFont(file));
@@ -160,6 +165,11 @@ TEST(DrawAreaSettings, Limits) {
     // Nothing in this program sets the limits.
     EXPECT_EQ(125000000, DrawArea::getPixelLimit());
     EXPECT_EQ(200000000, DrawArea::getFileLimit());
+    // Read once, on first use: nothing in this program has read it yet.
+    DrawArea::setGlobalResource("@GlyphCacheLimit", "1.5e6", 5);
+    EXPECT_EQ(1500000, DrawArea::getGlyphCacheLimit());
+    DrawArea::setGlobalResource("@GlyphCacheLimit", "8", 1);
+    EXPECT_EQ(1500000, DrawArea::getGlyphCacheLimit());
 
     std::string value;
     EXPECT_FALSE(GlobalResources::getSetting("@TestOnly", &value));

@@ -183,8 +183,18 @@ TEST_F(ListFixture, LineBatching) {
     list->addLine(0x0000ff, 2, 10, 0, 10, 10);
     list->addLine(0x0000ff, 2, 10, 10, 0, 10);
     list->flushLines();
-    // A batch that only moved: a PolyLine of one point.
+    // A batch that only moved draws nothing, and is dropped.
     list->moveLineTo(0xff, 3, 3, 4);
+    list->flushLines();
+    // A style that no segment followed is dropped with it.
+    list->addLine(0xff, 1, 0, 0, 5, 5);
+    list->moveLineTo(0xff00, 2, 5, 5);
+    list->moveLineTo(0xff0000, 3, 5, 5);
+    list->flushLines();
+    // The style set at the first point is the one of the first segment.
+    list->moveLineTo(0xff00, 2, 1, 1);
+    list->addLine(0xff, 1, 1, 1, 2, 2);
+    list->addLine(0xff, 2, 2, 2, 3, 3);
     list->flushLines();
     EXPECT_EQ(listingOf(list),
               "PolyLine(0xff0000, 1, [0, 0, 10, 0, 20, 5])\n"
@@ -193,7 +203,9 @@ TEST_F(ListFixture, LineBatching) {
               "Line(0, 0, 1, 1, 0x0000ff, 1)\n"
               "MultiLine(style, 0xff0000, 1, coor, 0, 0, coor, 10, 0, style, 0x0000ff, 2, coor, "
               "10, 10, coor, 0, 10)\n"
-              "PolyLine(0x0000ff, 3, [3, 4])\n");
+              "PolyLine(0x0000ff, 1, [0, 0, 5, 5])\n"
+              "MultiLine(style, 0x0000ff, 1, coor, 1, 1, coor, 2, 2, style, 0x0000ff, 2, coor, 3, "
+              "3)\n");
     // Nothing pending: flushing again adds nothing.
     int end = list->getEndPos();
     list->flushLines();

@@ -4,7 +4,10 @@
 #include <random>
 
 #include "draw/pixel/PixelBlend.h"
+#include "draw/raster/CoverageGrid.h"
+#include "draw/raster/PlotCollector.h"
 #include "draw/raster/scan/LineRasterizer.h"
+#include "tests/draw/BoundedRun.h"
 #include "tests/draw/RasterTestSupport.h"
 
 namespace {
@@ -177,4 +180,98 @@ TEST(RasterLine, WideLinesAsQuads) {
     EXPECT_EQ(pixelOf(*m, 15, 2), 0x0000FFu);
     EXPECT_EQ(pixelOf(*m, 30, 20), 0x00FF00u);
     EXPECT_EQ(pixelOf(*m, 31, 20), 0x00FF00u);
+}
+
+namespace {
+
+// A noisy series of n points across the raster, in a colour that shows a
+// second coat.
+std::vector<double> noisyPolyline(std::mt19937 &rng, int n, int w, int h) {
+    std::uniform_real_distribution<double> y(-3, h + 3);
+    std::vector<double> xy;
+    for (int i = 0; i < n; ++i) {
+        xy.push_back(-2 + (w + 4.0) * i / (n - 1));
+        xy.push_back(y(rng));
+    }
+    return xy;
+}
+
+// The reference: every plot listed, sorted, and painted once.
+void paintThroughList(DrawBMPImpl &r, const std::vector<double> &xy, int color) {
+    int l, t, rt, b;
+    r.getClip(&l, &t, &rt, &b);
+    LineRasterizer walker(l, t, rt, b, r.isAntiAlias());
+    PlotCollector list(&r, color);
+    for (size_t i = 0; i + 3 < xy.size(); i += 2)
+        walker.drawJoined(xy[i], xy[i + 1], xy[i + 2], xy[i + 3], &list, i > 0);
+    list.flush(&r);
+}
+
+bool paintThroughGrid(DrawBMPImpl &r, const std::vector<double> &xy, int color, bool plain) {
+    int l, t, rt, b;
+    r.getClip(&l, &t, &rt, &b);
+    CoverageGrid grid(&r, color, l, t, rt, b);
+    grid.addPolyline(xy.data(), (int)xy.size() / 2, r.isAntiAlias(), plain);
+    bool wasGrid = grid.isGrid();
+    grid.flush(&r);
+    return wasGrid;
+}
+
+int differingPixels(const DrawBMPImpl &a, const DrawBMPImpl &b) {
+    int n = 0;
+    for (int y = 0; y < a.getHeight(); ++y)
+        for (int x = 0; x < a.getWidth(); ++x) n += pixelOf(a, x, y) != pixelOf(b, x, y);
+    return n;
+}
+
+}  // namespace
+
+TEST(RasterLine, CoverageGridPaintsAsTheListedPlots) {
+    // Same pixels, exactly, whether the plots stay listed or fill the grid, and
+    // whether the walk asks each step for its colour or knows it is plain.
+    std::mt19937 rng(29);
+    int grids = 0;
+    for (int round = 0; round < 24; ++round) {
+        int w = 30 + round * 7, h = 20 + round * 3;
+        int n = round % 3 == 0 ? 5 : 40 + round * 30;
+        std::vector<double> xy = noisyPolyline(rng, n, w, h);
+        bool dashed = round % 4 == 1, antiAlias = round % 5 != 2;
+        int color = dashed ? dyn(1) : (int)0x80203040u;
+        auto setUp = [&](DrawBMPImpl &r) {
+            r.setAntiAlias(antiAlias, 0);
+            if (dashed) r.dashLineColor(dyn(1), 0x40000000, 0x0305);
+            if (round % 2) r.setClipRect(3, 2, w - 5, h - 4);
+        };
+        auto reference = makeRaster(w, h, kWhite), general = makeRaster(w, h, kWhite),
+             plain = makeRaster(w, h, kWhite);
+        setUp(*reference), setUp(*general), setUp(*plain);
+        paintThroughList(*reference, xy, color);
+        grids += paintThroughGrid(*general, xy, color, false);
+        EXPECT_EQ(differingPixels(*reference, *general), 0) << round;
+        if (dashed) continue;
+        paintThroughGrid(*plain, xy, color, true);
+        EXPECT_EQ(differingPixels(*reference, *plain), 0) << round;
+        // The raster's own polyline takes the same road.
+        auto drawn = makeRaster(w, h, kWhite);
+        setUp(*drawn);
+        drawn->polyLine(color, 1, DoubleArray(xy.data(), (int)xy.size()));
+        EXPECT_EQ(differingPixels(*reference, *drawn), 0) << round;
+    }
+    EXPECT_GE(grids, 10);
+}
+
+TEST(RasterLine, LongNoisyPolylineInBoundedMemory) {
+    // 300,000 points that each cross most of a 1000 by 600 canvas: the pixels
+    // walked are about 10^8, the canvas 6 * 10^5.
+    long grownMiB = boundedRunMiB(
+        []() {
+            std::mt19937 rng(5);
+            std::vector<double> xy = noisyPolyline(rng, 300000, 1000, 600);
+            auto r = makeRaster(1000, 600, kWhite);
+            r->polyLine(0x3366CC, 1, DoubleArray(xy.data(), (int)xy.size()));
+            return pixelOf(*r, 500, 300) != kWhite;
+        },
+        300, 1536);
+    EXPECT_GE(grownMiB, 0) << "failed, ran out of memory or of time";
+    EXPECT_LT(grownMiB, bounded_run::residentLimitMiB(400));
 }

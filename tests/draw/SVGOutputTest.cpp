@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <clocale>
 #include <regex>
 #include <string>
+#include <vector>
 
 #include "draw/canvas/DrawArea.h"
 #include "draw/pixel/ColorWords.h"
@@ -83,6 +85,27 @@ TEST(SVGOutput, ShapesLieOnPixelCentresAndColoursCarryTheirOpacity) {
                                         "70.5 30.5 Z' stroke='#333333'/>"));
     // The transparent background draws nothing.
     EXPECT_EQ(std::string::npos, s.find("width='100' height='80' fill"));
+}
+
+TEST(SVGOutput, VeryLongLinesGoOutInPiecesSharingTheirEnds) {
+    CanvasHolder c;
+    c->setSize(100, 100, kTransparent);
+    const int n = 120000;
+    std::vector<double> x(n), y(n);
+    for (int i = 0; i < n; ++i) x[i] = i % 100, y[i] = (i / 100) % 100;
+    c->rawPolyline(DoubleArray(x.data(), n), DoubleArray(y.data(), n), 0x000000, 1);
+    std::string s = svgOf(c.get());
+    std::vector<size_t> counts;
+    for (size_t at = s.find("<polyline points='"); at != std::string::npos;
+         at = s.find("<polyline points='", at + 1)) {
+        size_t end = s.find('\'', at + 18);
+        counts.push_back(std::count(s.begin() + at, s.begin() + end, ','));
+    }
+    // 120000 points in pieces of at most 50000, each starting where the last ended.
+    ASSERT_EQ(3u, counts.size());
+    EXPECT_EQ(50000u, counts[0]);
+    EXPECT_EQ(50000u, counts[1]);
+    EXPECT_EQ(20002u, counts[2]);
 }
 
 TEST(SVGOutput, DynamicColoursBecomeDefinitions) {

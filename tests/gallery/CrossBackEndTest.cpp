@@ -80,12 +80,18 @@ Difference compare(const Rgb &a, const Rgb &b) {
     return d;
 }
 
+// The stress picture of a million overlapping strokes is left out: each
+// renderer blends the self-overlaps of one path its own way, and its vector
+// files run to tens of megabytes.
+bool compared(const std::string &name) {
+    return name.size() > 4 && name.compare(name.size() - 4, 4, ".png") == 0 &&
+           name != "raster_million_points.png";
+}
+
 std::vector<GallerySample> pictures() {
     std::vector<GallerySample> out;
-    for (const GallerySample &s : gallerySamples()) {
-        std::string name = s.fileName;
-        if (name.size() > 4 && name.compare(name.size() - 4, 4, ".png") == 0) out.push_back(s);
-    }
+    for (const GallerySample &s : gallerySamples())
+        if (compared(s.fileName)) out.push_back(s);
     return out;
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "draw/canvas/DrawArea.h"
+#include "tests/text/TextTestSupport.h"
 #include "text/font/FontFace.h"
 #include "text/font/FontGlyph.h"
 #include "text/font/FontName.h"
@@ -16,14 +17,7 @@
 
 namespace {
 
-const char *kFontDir = VISTREL_BINARY_DIR "/fonts";
-
-std::string readFile(const std::string &path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
+const char *const kFontDir = testFontDir();
 
 void writeFile(const std::string &path, const std::string &bytes) {
     std::ofstream out(path, std::ios::binary);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "draw/canvas/DrawArea.h"
+#include "tests/draw/BoundedRun.h"
 #include "text/font/FontDriver.h"
 #include "text/font/FontFace.h"
 #include "text/font/FontGlyph.h"
@@ -208,6 +209,33 @@ TEST_F(TextLayout, WrappingMatchesGreedyReference) {
         EXPECT_EQ(widest, t->getWidth());
         EXPECT_LE(t->getWidth(), maxWidth);
     }
+}
+
+TEST_F(TextLayout, LongTextWrapsInLinearTime) {
+    // A million characters at about ten to a line: a wrap that looked at the
+    // rest of the text on every line would walk 10^11 glyphs.
+    long grownMiB = boundedRunMiB(
+        []() {
+            std::wstring text;
+            while (text.size() < 1000000) text += L"chart axis legend value of the ";
+            text.resize(1000000);
+            DrawArea *d = DrawArea::create();
+            TTFText *t =
+                TTFText::create(d, text.c_str(), "arial.ttf", 0, 10, 0, 0, false, kMode, 60, 0, 0);
+            TTFBlocks *b = static_cast<TTFBlocks *>(t);
+            std::wstring first = lineText(b, 0);
+            bool ok = b->getLineCount() > 50000 && b->getWidth() <= 60 && first.size() > 4 &&
+                      text.compare(0, first.size(), first) == 0;
+            if (!ok)
+                fprintf(stderr, "%d lines, %d wide, first line %ls\n", b->getLineCount(),
+                        b->getWidth(), first.c_str());
+            t->destroy();
+            d->destroy();
+            return ok;
+        },
+        90, 2048);
+    EXPECT_GE(grownMiB, 0) << "failed, ran out of memory or of time";
+    EXPECT_LT(grownMiB, bounded_run::residentLimitMiB(1024));
 }
 
 TEST_F(TextLayout, WrapBoundariesAndTruncation) {

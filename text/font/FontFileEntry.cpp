@@ -7,11 +7,14 @@
 
 #include "text/font/FontFace.h"
 #include "text/font/FontName.h"
+#include "text/font/LibTTFFontDriver.h"
 #include "text/font/LibTTFSizedFontFace.h"
 
 namespace {
 const int kNoSize = (int)0x80000001;
-}
+// What a sized face costs the glyph cache: the object and its table entry.
+const long long kFaceBytes = sizeof(LibTTFSizedFontFace) + 64;
+}  // namespace
 
 FontFileEntry::FontFileEntry(LibTTFFontDriver *d, const std::string &p, int index, FT_Face f,
                              long long t)
@@ -54,8 +57,10 @@ LibTTFSizedFontFace *FontFileEntry::getSizedFace(int style, double width, double
     unsigned long long key = sizeKey(style, width, height);
     auto it = sizes.find(key);
     if (it != sizes.end()) return it->second;
-    LibTTFSizedFontFace *sized = new LibTTFSizedFontFace(this, requested, style, width, height);
+    LibTTFSizedFontFace *sized =
+        new LibTTFSizedFontFace(this, key, requested, style, width, height);
     sizes[key] = sized;
+    driver->getGlyphCache().add(sized, kFaceBytes);
     return sized;
 }
 

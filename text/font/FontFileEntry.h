@@ -20,6 +20,8 @@ public:
 
     // Sizes in points; a width of 0 is the height.
     LibTTFSizedFontFace *getSizedFace(int style, double width, double height);
+    // Drops the table entry of an evicted face.
+    void forgetFace(unsigned long long key) { sizes.erase(key); }
     // Sets the FreeType pixel size unless it is the current one.
     bool setPixelSize(int width, int height);
 

@@ -40,7 +40,10 @@ FontDriver *createLibTTFFontDriver(const char *fontSearchPath, const char *custo
 }
 
 LibTTFFontDriver::LibTTFFontDriver(const char *fontSearchPath, const char *customFontSearchPath)
-    : library(nullptr), testLog(nullptr), failureCount(0) {
+    : glyphCache(DrawArea::getGlyphCacheLimit()),
+      library(nullptr),
+      testLog(nullptr),
+      failureCount(0) {
     if (FT_Init_FreeType(&library) != 0) library = nullptr;
     // The engine filters LCD glyphs itself.
     if (library) FT_Library_SetLcdFilter(library, FT_LCD_FILTER_NONE);
@@ -75,8 +78,9 @@ FontFace *LibTTFFontDriver::openFace(const char *fontSpec, int style, double wid
         if (it != multiFaces.end()) {
             multi = it->second;
         } else {
-            multi = new MultiFontFace(this, fontSpec, style, width, height);
+            multi = new MultiFontFace(this, mapKey, fontSpec, style, width, height);
             multiFaces[mapKey] = multi;
+            glyphCache.add(multi, multi->cacheBytes());
         }
         return multi->hasFont() ? multi : nullptr;
     }

@@ -7,6 +7,7 @@
 
 #include "text/font/FontDriver.h"
 #include "text/font/FreeTypeHandles.h"
+#include "text/font/cache/GlyphCache.h"
 
 class FontFileEntry;
 class FontName;
@@ -31,6 +32,11 @@ public:
     FontFace *openOne(const FontName &name, int style, double width, double height);
 
     const std::vector<std::string> &getSearchList() const { return searchList; }
+    // Faces, glyphs and fall-back lists within the "@GlyphCacheLimit" budget.
+    GlyphCache &getGlyphCache() { return glyphCache; }
+    int getFallbackListCount() const { return (int)multiFaces.size(); }
+    // Drops the table entry of an evicted fall-back list.
+    void forgetMultiFace(const std::string &key) { multiFaces.erase(key); }
     bool isReady() const { return library != nullptr; }
 
 protected:
@@ -54,6 +60,8 @@ private:
     static void selectCharmap(FT_Face face);
     void forgetFailures();
 
+    // First, so that it outlives everything it counts.
+    GlyphCache glyphCache;
     FT_Library library;
     std::vector<std::string> searchList;
     std::map<Key, FontFileEntry *> faces;

@@ -6,6 +6,7 @@
 
 #include <cmath>
 
+#include "text/font/cache/CanvasGlyphLimit.h"
 #include "text/font/FontFileEntry.h"
 #include "text/font/FontGlyph.h"
 #include "text/font/GlyphBitmap.h"
@@ -75,9 +76,10 @@ void copyBitmap(FT_GlyphSlot slot, GlyphBitmap *image) {
 
 }  // namespace
 
-LibTTFSizedFontFace::LibTTFSizedFontFace(FontFileEntry *e, int requested, int synthetic, double w,
-                                         double h)
+LibTTFSizedFontFace::LibTTFSizedFontFace(FontFileEntry *e, unsigned long long key, int requested,
+                                         int synthetic, double w, double h)
     : entry(e),
+      sizeKey(key),
       requestedStyle(requested),
       style(synthetic),
       width(w),
@@ -95,6 +97,28 @@ LibTTFSizedFontFace::LibTTFSizedFontFace(FontFileEntry *e, int requested, int sy
 
 LibTTFSizedFontFace::~LibTTFSizedFontFace() {
     for (auto &g : glyphs) delete g.second;
+    getCache()->remove(this);
+}
+
+GlyphCache *LibTTFSizedFontFace::getCache() {
+    return &entry->getDriver()->getGlyphCache();
+}
+
+void LibTTFSizedFontFace::addRef() {
+    if (refCount++ == 0) getCache()->busy(this);
+}
+
+void LibTTFSizedFontFace::release() {
+    if (--refCount == 0) getCache()->idle(this);
+}
+
+bool LibTTFSizedFontFace::evict() {
+    // A glyph still held keeps its face: the glyph points at it.
+    for (auto &g : glyphs)
+        if (g.second && g.second->getRefCount() > 0) return false;
+    entry->forgetFace(sizeKey);
+    delete this;
+    return true;
 }
 
 int LibTTFSizedFontFace::glyphKey(int ch, int flags) {
@@ -155,14 +179,22 @@ FontGlyph *LibTTFSizedFontFace::getMissingGlyph(int, int flags) {
 FontGlyph *LibTTFSizedFontFace::getGlyph(int ch, int flags) {
     int key = glyphKey(ch, flags);
     auto it = glyphs.find(key);
-    LibTTFFontGlyph *glyph;
     if (it != glyphs.end()) {
-        glyph = it->second;
-    } else {
-        glyph = renderGlyph(ch, flags);
-        glyphs[key] = glyph;
+        if (it->second) it->second->addRef();
+        return it->second;
     }
-    if (glyph) glyph->addRef();
+    LibTTFFontGlyph *glyph = renderGlyph(ch, flags);
+    if (!glyph) {
+        glyphs[key] = nullptr;
+        return nullptr;
+    }
+    // The caller's reference first, so that the room made for the glyph is
+    // not made by dropping it.
+    glyph->addRef();
+    if (CanvasGlyphLimit::allowsKeeping(glyph->getPixelWidth(), glyph->rows)) {
+        glyphs[key] = glyph;
+        glyph->keep(getCache(), this, key);
+    }
     return glyph;
 }
 

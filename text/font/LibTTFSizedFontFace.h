@@ -3,18 +3,22 @@
 #include <map>
 
 #include "text/font/FontFace.h"
+#include "text/font/cache/GlyphCache.h"
 
 class FontFileEntry;
 class GlyphBitmap;
 class LibTTFFontGlyph;
 
 // One FreeType face at one size, with its rendered glyphs.  Bold and italic that
-// the file lacks are made up: a double strike and a shear.
-class LibTTFSizedFontFace : public FontFace {
+// the file lacks are made up: a double strike and a shear.  The glyph cache
+// counts the face and the glyphs it keeps; once nothing holds the face it may
+// be dropped with them.
+class LibTTFSizedFontFace : public FontFace, public GlyphCache::Item {
 public:
-    // requestedStyle is what the caller asked for, style what must be synthesised.
-    LibTTFSizedFontFace(FontFileEntry *entry, int requestedStyle, int style, double width,
-                        double height);
+    // requestedStyle is what the caller asked for, style what must be
+    // synthesised; the entry keeps the face under sizeKey.
+    LibTTFSizedFontFace(FontFileEntry *entry, unsigned long long sizeKey, int requestedStyle,
+                        int style, double width, double height);
     ~LibTTFSizedFontFace() override;
     LibTTFSizedFontFace(const LibTTFSizedFontFace &) = delete;
     LibTTFSizedFontFace &operator=(const LibTTFSizedFontFace &) = delete;
@@ -22,8 +26,8 @@ public:
     FontFace *scaled(double factor) override;
     FontGlyph *getGlyph(int ch, int flags) override;
     FontGlyph *getMissingGlyph(int ch, int flags) override;
-    void addRef() override { ++refCount; }
-    void release() override { --refCount; }
+    void addRef() override;
+    void release() override;
     bool isItalic() override;
     bool isBold() override;
     bool isSyntheticItalic() override { return (style & kItalic) != 0; }
@@ -36,6 +40,10 @@ public:
     double getWidthScale() override;
     FontDriver *getDriver() override;
 
+    // Drops the table entry of an evicted glyph.
+    void forgetGlyph(int key) { glyphs.erase(key); }
+    bool evict() override;
+
     static int glyphKey(int ch, int flags);
     // Whole pixels where a scaled size nearly lands, back in points.
     static double scaledPoints(double points, double factor);
@@ -43,7 +51,10 @@ public:
 private:
     LibTTFFontGlyph *renderGlyph(int ch, int flags);
 
+    GlyphCache *getCache();
+
     FontFileEntry *entry;
+    unsigned long long sizeKey;
     int requestedStyle;
     int style;
     double width;

@@ -4,8 +4,10 @@
 #include "text/font/LibTTFFontDriver.h"
 #include "text/font/LibTTFSizedFontFace.h"
 
-MultiFontFace::MultiFontFace(LibTTFFontDriver *d, const char *s, int st, double w, double h)
+MultiFontFace::MultiFontFace(LibTTFFontDriver *d, const std::string &key, const char *s, int st,
+                             double w, double h)
     : driver(d),
+      cacheKey(key),
       rest(s ? s : ""),
       spec(rest),
       style(st),
@@ -23,7 +25,26 @@ MultiFontFace::MultiFontFace(LibTTFFontDriver *d, const char *s, int st, double 
 }
 
 MultiFontFace::~MultiFontFace() {
+    driver->getGlyphCache().remove(this);
     for (FontFace *face : loaded) face->release();
+}
+
+void MultiFontFace::addRef() {
+    if (refCount++ == 0) driver->getGlyphCache().busy(this);
+}
+
+void MultiFontFace::release() {
+    if (--refCount == 0) driver->getGlyphCache().idle(this);
+}
+
+long long MultiFontFace::cacheBytes() const {
+    return (long long)sizeof(MultiFontFace) + 2 * (long long)spec.size() + 64;
+}
+
+bool MultiFontFace::evict() {
+    driver->forgetMultiFace(cacheKey);
+    delete this;
+    return true;
 }
 
 bool MultiFontFace::loadNext() {
@@ -50,13 +71,17 @@ bool MultiFontFace::loadNext() {
 }
 
 FontFace *MultiFontFace::findFaceFor(int ch, int flags, FontGlyph **glyph) {
-    for (size_t i = 0;; ++i) {
+    // Held while it looks: making room for a new glyph may drop idle lists.
+    addRef();
+    FontFace *found = nullptr;
+    *glyph = nullptr;
+    for (size_t i = 0; !found; ++i) {
         if (i == loaded.size() && !loadNext()) break;
         *glyph = loaded[i]->getGlyph(ch, flags);
-        if (*glyph) return loaded[i];
+        if (*glyph) found = loaded[i];
     }
-    *glyph = nullptr;
-    return nullptr;
+    release();
+    return found;
 }
 
 FontGlyph *MultiFontFace::getGlyph(int ch, int flags) {

@@ -4,8 +4,10 @@
 #include <cstring>
 #include <vector>
 
+#include "draw/canvas/DrawArea.h"
 #include "draw/list/GlyphText.h"
 #include "foundation/Unicode.h"
+#include "text/font/cache/CanvasGlyphLimit.h"
 #include "text/font/FontLock.h"
 #include "text/layout/TTFBlocks.h"
 #include "text/layout/TTFTextImpl.h"
@@ -64,6 +66,7 @@ TTFText *TTFText::create(DrawArea *d, const wchar_t *text, const char *fontName,
     TTFBlocks *blocks;
     {
         FontLock lock;
+        CanvasGlyphLimit keepNoLarger(d ? d->getWidth() : 0, d ? d->getHeight() : 0);
         VSMLBuilder builder(d, modeForAngle(antialias, angle), vertical);
         blocks = builder.build(text, style, root);
     }

@@ -59,6 +59,8 @@ public:
 protected:
     TTFText() : refCount(1) {}
     ~TTFText() override {}
+    // Whether releaseText would delete the object now.
+    bool isLastReference() const { return refCount <= 1; }
 
 private:
     int refCount;

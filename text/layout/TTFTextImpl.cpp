@@ -15,9 +15,17 @@
 #include "text/layout/LineBreaker.h"
 #include "text/layout/TextTransform.h"
 
-namespace {}
-
 TTFTextImpl::TTFTextImpl(DrawArea *d, GlyphContainer *g, int b, int e, FontFace *f, bool v)
+    : TTFTextImpl(d, g, b, e, f, v, Unmeasured()) {
+    measure();
+}
+
+TTFTextImpl::TTFTextImpl(const TTFTextImpl &line, int b)
+    : TTFTextImpl(line.canvas, line.glyphs, b, line.runEnd, line.face.get(), line.vertical,
+                  Unmeasured()) {}
+
+TTFTextImpl::TTFTextImpl(DrawArea *d, GlyphContainer *g, int b, int e, FontFace *f, bool v,
+                         Unmeasured)
     : canvas(d),
       glyphs(g),
       begin(b),
@@ -34,16 +42,25 @@ TTFTextImpl::TTFTextImpl(DrawArea *d, GlyphContainer *g, int b, int e, FontFace 
       matrix{1, 0, 0, 1},
       underlineColor(0) {
     glyphs->addRef();
-    measure();
 }
 
 TTFTextImpl::~TTFTextImpl() {
     // Face and glyph references go back under the font mutex.
     FontLock lock;
-    if (next) next->releaseText();
+    releaseChain(next);
     ellipsis.clear();
     face.reset(nullptr);
     glyphs->release();
+}
+
+void TTFTextImpl::releaseChain(TTFTextImpl *run) {
+    while (run) {
+        // A run that others still hold keeps the rest of its chain.
+        TTFTextImpl *after = run->isLastReference() ? run->next : nullptr;
+        if (after) run->next = nullptr;
+        run->releaseText();
+        run = after;
+    }
 }
 
 int TTFTextImpl::getItemCount() const {
@@ -119,7 +136,7 @@ void TTFTextImpl::layoutVertical(int x) {
 bool TTFTextImpl::layout(int x, int maxWidth, int maxLines) {
     {
         FontLock lock;
-        if (next) next->releaseText();
+        releaseChain(next);
         next = nullptr;
         ellipsis.clear();
     }
@@ -137,9 +154,7 @@ bool TTFTextImpl::layout(int x, int maxWidth, int maxLines) {
             truncate(maxWidth);
             fits = false;
         } else if (line.overflow && line.end < runEnd) {
-            if (line.nextStart < runEnd)
-                next =
-                    new TTFTextImpl(canvas, glyphs, line.nextStart, runEnd, face.get(), vertical);
+            if (line.nextStart < runEnd) next = new TTFTextImpl(*this, line.nextStart);
         } else if (line.overflow) {
             fits = false;
         }

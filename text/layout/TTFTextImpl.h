@@ -43,7 +43,15 @@ public:
     std::vector<int> getCharacters() const;
 
 private:
+    // The rest of `line` from glyph `begin` on: measured when it is laid out,
+    // so that wrapping costs each glyph once, not once per line before it.
+    TTFTextImpl(const TTFTextImpl &line, int begin);
+    struct Unmeasured {};
+    TTFTextImpl(DrawArea *d, GlyphContainer *glyphs, int begin, int end, FontFace *face,
+                bool vertical, Unmeasured);
     ~TTFTextImpl() override;
+    // Drops a chain of continuations without recursing, one run at a time.
+    static void releaseChain(TTFTextImpl *first);
 
     const Glyph &itemAt(int i) const;
     void addToRuns(const Glyph &g, int color, FontFace *&runFace, GlyphText &out) const;
