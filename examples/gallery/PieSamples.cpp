@@ -1,10 +1,7 @@
 // Pie charts: the W3 workload, donuts, 3D pies with exploded sectors, side and
 // circular labels, a legend, and the shading methods of sector tops.
-#include <cstdio>
-#include <cstring>
 #include <string>
 
-#include "bench/workloads/Workloads.h"
 #include "chart/base/MultiChart.h"
 #include "chart/legend/LegendBox.h"
 #include "draw/pixel/ColorWords.h"
@@ -34,15 +31,7 @@ PieChart *salesPie(int width, int height, const char *title, int n) {
 }
 
 bool workloadW3(const std::string &path) {
-    for (const Workload &w : workloads()) {
-        if (strcmp(w.name, "W3") != 0) continue;
-        std::string png = w.render();
-        FILE *f = fopen(path.c_str(), "wb");
-        bool ok = f && !png.empty() && fwrite(png.data(), 1, png.size(), f) == png.size();
-        if (f) fclose(f);
-        return ok;
-    }
-    return false;
+    return saveWorkload("W3", path);
 }
 
 bool donut(const std::string &path) {

@@ -97,6 +97,9 @@ void BarLayerImpl::preLayout(int length) {
     LayerImpl::preLayout(length);
     // A category of labels owns a slot, its bars in the middle.
     xAxisImpl()->setDefaultIndent(true);
+    // Percentages end at 100.
+    if (getCombineMethod() == kPercentage)
+        for (int s = 0; s < countDataSets(); ++s) axisOf(s)->setDefaultExtensions(0, 0, 0);
 }
 
 double BarLayerImpl::spacing() const {
