@@ -39,10 +39,7 @@ std::string renderW2() {
     layer->addDataSet(DoubleArray(beta, 12), 0xED7D31, "Beta");
     layer->addDataSet(DoubleArray(gamma, 12), 0x70AD47, "Gamma");
     layer->setBarGap(0.15, 0);
-    MemBlock png = c->makeChart2(kPNG);
-    std::string out(png.data ? png.data : "", png.len > 0 ? png.len : 0);
-    c->destroy();
-    return out;
+    return outputOf(c, kPNG);
 }
 
 }  // namespace

@@ -18,10 +18,7 @@ std::string renderW3() {
     c->setPieSize(250, 215, 130);
     c->setData(DoubleArray(values, 8), StringArray(names, 8));
     c->setLabelFormat("{label} ({percent|1}%)");
-    MemBlock png = c->makeChart2(kPNG);
-    std::string out(png.data ? png.data : "", png.len > 0 ? png.len : 0);
-    c->destroy();
-    return out;
+    return outputOf(c, kPNG);
 }
 
 }  // namespace

@@ -16,14 +16,19 @@ struct Workload {
 
 std::vector<Workload> &workloads();
 
+class BaseChart;
+// The chart's picture in the image format (kPNG, ...); the chart is destroyed.
+std::string outputOf(BaseChart *chart, int format);
+
 struct WorkloadRegistrar {
     explicit WorkloadRegistrar(const Workload &w) { workloads().push_back(w); }
 };
 
 #define VISTREL_WORKLOAD_CONCAT2(a, b) a##b
 #define VISTREL_WORKLOAD_CONCAT(a, b) VISTREL_WORKLOAD_CONCAT2(a, b)
-#define VISTREL_WORKLOAD(name, fileName, fn) \
-    static WorkloadRegistrar VISTREL_WORKLOAD_CONCAT(workloadRegistrar_, __LINE__)(Workload{name, fileName, fn})
+#define VISTREL_WORKLOAD(name, fileName, fn)                             \
+    static WorkloadRegistrar VISTREL_WORKLOAD_CONCAT(workloadRegistrar_, \
+                                                     __LINE__)(Workload{name, fileName, fn})
 
 // The generator every random workload input comes from:
 // s_k = (1664525 s_{k-1} + 1013904223) mod 2^32, u_k = s_k / 2^32.

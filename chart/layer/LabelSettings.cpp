@@ -11,16 +11,14 @@ const int kAnyGroup = -1;
 
 LabelSettings::LabelSettings(BoxContainer *chart)
     : chart(chart),
-      dataStyle(new TextBoxImpl(chart)),
-      aggregateStyle(new TextBoxImpl(chart)),
-      dataAsked(false),
-      aggregateAsked(false) {}
+      data{new TextBoxImpl(chart), std::string(), false},
+      aggregate{new TextBoxImpl(chart), std::string(), false} {}
 
 LabelSettings::~LabelSettings() {
-    for (LabelMap *map : {&data, &aggregates, &groups})
+    for (LabelMap *map : {&points, &aggregates, &groups})
         for (auto &entry : *map) entry.second->release();
-    dataStyle->release();
-    aggregateStyle->release();
+    data.style->release();
+    aggregate.style->release();
 }
 
 void LabelSettings::applyStyle(TextBoxImpl *box, const char *font, double fontSize, int fontColor,
@@ -31,28 +29,34 @@ void LabelSettings::applyStyle(TextBoxImpl *box, const char *font, double fontSi
     box->setFontAngle(fontAngle, false);
 }
 
+void LabelSettings::Kind::setFormat(const char *text) {
+    format = text ? text : "";
+    asked = true;
+}
+
+TextBox *LabelSettings::Kind::setStyle(const char *font, double fontSize, int fontColor,
+                                       double fontAngle) {
+    applyStyle(style, font, fontSize, fontColor, fontAngle);
+    asked = true;
+    return style;
+}
+
 void LabelSettings::setDataFormat(const char *format) {
-    dataFormat = format ? format : "";
-    dataAsked = true;
+    data.setFormat(format);
 }
 
 TextBox *LabelSettings::setDataStyle(const char *font, double fontSize, int fontColor,
                                      double fontAngle) {
-    applyStyle(dataStyle, font, fontSize, fontColor, fontAngle);
-    dataAsked = true;
-    return dataStyle;
+    return data.setStyle(font, fontSize, fontColor, fontAngle);
 }
 
 void LabelSettings::setAggregateFormat(const char *format) {
-    aggregateFormat = format ? format : "";
-    aggregateAsked = true;
+    aggregate.setFormat(format);
 }
 
 TextBox *LabelSettings::setAggregateStyle(const char *font, double fontSize, int fontColor,
                                           double fontAngle) {
-    applyStyle(aggregateStyle, font, fontSize, fontColor, fontAngle);
-    aggregateAsked = true;
-    return aggregateStyle;
+    return aggregate.setStyle(font, fontSize, fontColor, fontAngle);
 }
 
 TextBoxImpl2 *LabelSettings::makeLabel(TextBoxImpl2 *&slot, TextBoxImpl *parent, const char *label,
@@ -69,26 +73,26 @@ TextBoxImpl2 *LabelSettings::makeLabel(TextBoxImpl2 *&slot, TextBoxImpl *parent,
 TextBox *LabelSettings::addCustomData(int dataSet, int dataItem, const char *label,
                                       const char *font, double fontSize, int fontColor,
                                       double fontAngle, TextBoxImpl *style) {
-    return makeLabel(data[{dataSet, dataItem}], style ? style : dataStyle, label, font, fontSize,
+    return makeLabel(points[{dataSet, dataItem}], style ? style : data.style, label, font, fontSize,
                      fontColor, fontAngle);
 }
 
 TextBox *LabelSettings::addCustomAggregate(int dataItem, const char *label, const char *font,
                                            double fontSize, int fontColor, double fontAngle) {
-    return makeLabel(aggregates[{kAnyGroup, dataItem}], aggregateStyle, label, font, fontSize,
+    return makeLabel(aggregates[{kAnyGroup, dataItem}], aggregate.style, label, font, fontSize,
                      fontColor, fontAngle);
 }
 
 TextBox *LabelSettings::addCustomGroup(int dataGroup, int dataItem, const char *label,
                                        const char *font, double fontSize, int fontColor,
                                        double fontAngle) {
-    return makeLabel(groups[{dataGroup, dataItem}], aggregateStyle, label, font, fontSize,
+    return makeLabel(groups[{dataGroup, dataItem}], aggregate.style, label, font, fontSize,
                      fontColor, fontAngle);
 }
 
 TextBoxImpl2 *LabelSettings::customData(int dataSet, int dataItem) const {
-    auto at = data.find({dataSet, dataItem});
-    return at == data.end() ? nullptr : at->second;
+    auto at = points.find({dataSet, dataItem});
+    return at == points.end() ? nullptr : at->second;
 }
 
 // A group's own label wins over the one for every group at the position.

@@ -36,32 +36,36 @@ public:
     TextBox *addCustomGroup(int dataGroup, int dataItem, const char *label, const char *font,
                             double fontSize, int fontColor, double fontAngle);
 
-    TextBoxImpl *getDataStyle() const { return dataStyle; }
-    TextBoxImpl *getAggregateStyle() const { return aggregateStyle; }
-    bool hasDataLabels() const { return dataAsked; }
-    bool hasAggregateLabels() const { return aggregateAsked; }
-    const std::string &getDataFormat() const { return dataFormat; }
-    const std::string &getAggregateFormat() const { return aggregateFormat; }
+    TextBoxImpl *getDataStyle() const { return data.style; }
+    TextBoxImpl *getAggregateStyle() const { return aggregate.style; }
+    bool hasDataLabels() const { return data.asked; }
+    bool hasAggregateLabels() const { return aggregate.asked; }
+    const std::string &getDataFormat() const { return data.format; }
+    const std::string &getAggregateFormat() const { return aggregate.format; }
     // Null when none was given.
     TextBoxImpl2 *customData(int dataSet, int dataItem) const;
     TextBoxImpl2 *customAggregate(int dataGroup, int dataItem) const;
-    bool hasCustomAggregates() const { return !aggregates.empty() || !groups.empty(); }
-    bool hasCustomData() const { return !data.empty(); }
 
 private:
     typedef std::map<std::pair<int, int>, TextBoxImpl2 *> LabelMap;
+
+    // Data labels or aggregate labels: shown once a format or style is set.
+    struct Kind {
+        TextBoxImpl *style;
+        std::string format;
+        bool asked;
+
+        void setFormat(const char *text);
+        TextBox *setStyle(const char *font, double fontSize, int fontColor, double fontAngle);
+    };
 
     TextBoxImpl2 *makeLabel(TextBoxImpl2 *&slot, TextBoxImpl *parent, const char *label,
                             const char *font, double fontSize, int fontColor, double fontAngle);
 
     BoxContainer *chart;
-    TextBoxImpl *dataStyle;
-    TextBoxImpl *aggregateStyle;
-    std::string dataFormat;
-    std::string aggregateFormat;
-    bool dataAsked;
-    bool aggregateAsked;
-    LabelMap data;
+    Kind data;
+    Kind aggregate;
+    LabelMap points;
     LabelMap aggregates;
     LabelMap groups;
 };

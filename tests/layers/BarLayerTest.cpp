@@ -4,6 +4,7 @@
 
 #include "chart/symbol/LayerPainter.h"
 #include "foundation/Constants.h"
+#include "tests/chart/layer/LayerTestSupport.h"
 #include "tests/layers/BarTestSupport.h"
 
 namespace {
@@ -214,4 +215,26 @@ TEST(BarLayer, SetsOfADepthLayerStandOneBehindTheOther) {
     ASSERT_GE(back, 0);
     EXPECT_EQ(boxes[back][0] - boxes[front][0], 14);
     EXPECT_EQ(boxes[front][1] - boxes[back][1], 14);
+}
+
+TEST(BarLayer, AnAlignedLayerPutsItsPointsOnTheBars) {
+    Owned<XYChartImpl> chart(newBarChart());
+    chart->xAxis()->setLabels(StringArray(kLabels, 4));
+    BarLayer *bars = chart->addBarLayer2(kSide, 0);
+    std::vector<double> v = {1, 2, 3, 4};
+    bars->addDataSet(values(v), 0xFF0000, "");
+    bars->addDataSet(values(v), 0x00FF00, "");
+    SquareLayer *points = SquareLayer::add(chart.get());
+    points->addDataSet(values(v), 0x0000FF, "");
+    points->alignLayer(bars, 1);
+    std::vector<std::vector<int>> boxes = boxesOf(chart.get());
+    ASSERT_EQ(boxes.size(), 12u);
+    // The points' hot spots follow the bars' in the map: their middles meet.
+    for (int i = 0; i < 4; ++i) {
+        const std::vector<int> &bar = boxes[2 * i + 1], &point = boxes[8 + i];
+        EXPECT_NEAR((point[0] + point[2]) / 2.0, (bar[0] + bar[2]) / 2.0, 0.5);
+    }
+    // A set the bars do not have leaves the points at their own x.
+    points->alignLayer(bars, 5);
+    EXPECT_DOUBLE_EQ(points->pointXPixel(0), points->xPixel(0));
 }
