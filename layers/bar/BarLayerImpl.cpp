@@ -95,8 +95,14 @@ void BarLayerImpl::setRoundedCorners(int r1, int r2, int r3, int r4) {
 
 void BarLayerImpl::preLayout(int length) {
     LayerImpl::preLayout(length);
-    // A category of labels owns a slot, its bars in the middle.
-    xAxisImpl()->setDefaultIndent(true);
+    // A category of labels owns a slot, its bars in the middle; numbered
+    // positions end half a slot beyond the outer bars.
+    AxisImpl *x = xAxisImpl();
+    x->setDefaultIndent(true);
+    if (isXEnumerated()) {
+        x->setDefaultExtensions(0, 0, 0);
+        x->setDefaultRounding(0, 0);
+    }
     // Percentages end at 100.
     if (getCombineMethod() == kPercentage)
         for (int s = 0; s < countDataSets(); ++s) axisOf(s)->setDefaultExtensions(0, 0, 0);

@@ -238,3 +238,17 @@ TEST(BarLayer, AnAlignedLayerPutsItsPointsOnTheBars) {
     points->alignLayer(bars, 5);
     EXPECT_DOUBLE_EQ(points->pointXPixel(0), points->xPixel(0));
 }
+
+TEST(BarLayer, NumberedPositionsEndHalfASlotBeyondTheOuterBars) {
+    Owned<XYChartImpl> chart(newBarChart());
+    std::vector<double> v = {3, 5, 2, 6, 4};
+    chart->addBarLayer(values(v), 0xFF0000, "", 0);
+    chart->layoutAxes();
+    EXPECT_EQ(chart->xAxis()->getMinValue(), -0.5);
+    EXPECT_EQ(chart->xAxis()->getMaxValue(), 4.5);
+    // Bars stand on 0 with the y axis's extension above only.
+    EXPECT_EQ(chart->yAxis()->getMinValue(), 0);
+    std::vector<std::vector<int>> boxes = boxesOf(chart.get());
+    ASSERT_EQ(boxes.size(), 5u);
+    EXPECT_EQ(boxes[0][0], 50 + 30 - 22);
+}
