@@ -8,7 +8,27 @@
 #include "chart/xy/XYChartImpl.h"
 #include "draw/canvas/DrawArea.h"
 #include "draw/pixel/ColorWords.h"
+#include "foundation/DrawObj.h"
 #include "text/box/TextBoxImpl2.h"
+
+// A label box with the colour that kSameAsMainColor stands for while it paints.
+class DataLabels::Label : public DrawObj {
+public:
+    Label(TextBoxImpl2 *box, int mainColor) : box(box), mainColor(mainColor) {
+        setZOrder(box->getZOrder());
+    }
+    ~Label() override { box->release(); }
+    void release() override { delete this; }
+    void paint(DrawArea *d) override {
+        d->setColorTable(kSameAsMainColor & 0xFFFF, mainColor);
+        box->paint(d);
+    }
+    TextBoxImpl2 *getBox() const { return box; }
+
+private:
+    TextBoxImpl2 *box;
+    int mainColor;
+};
 
 namespace {
 
@@ -23,8 +43,12 @@ const char *firstTemplate(const std::string &a, const std::string &b, const std:
 }  // namespace
 
 void DataLabels::clear() {
-    for (TextBoxImpl2 *box : boxes) box->release();
-    boxes.clear();
+    for (Label *label : labels) label->release();
+    labels.clear();
+}
+
+TextBoxImpl2 *DataLabels::getLabel(int i) const {
+    return labels[i]->getBox();
 }
 
 TextBoxImpl *DataLabels::styleOf(const LabelSpot &spot, const char **templateText) const {
@@ -55,8 +79,12 @@ void DataLabels::makeLabel(const LabelSpot &spot) {
     const char *templateText = nullptr;
     TextBoxImpl *style = styleOf(spot, &templateText);
     if (!style) return;
-    DrawArea *d = layer->getDrawArea();
-    if (d->getARGBColor(style->getFontColor()) == kTransparent) return;
+    // An aggregate takes the colour of the set at its end.
+    DataSetImpl *set = layer->dataSetAt(spot.dataSet);
+    int mainColor = set ? set->getDataColor() : kTransparent;
+    int fontColor = style->getFontColor();
+    if (fontColor == kSameAsMainColor) fontColor = mainColor;
+    if (layer->getDrawArea()->getARGBColor(fontColor) == kTransparent) return;
     std::string text = layer->fillTemplate(templateText, 0, spot);
     if (text.empty()) return;
     // The label's own alignment, if its style chain set one, is read for an
@@ -72,9 +100,9 @@ void DataLabels::makeLabel(const LabelSpot &spot) {
     box->setAlignment(boxAlignment);
     box->setAnchored(true);
     box->setZOrder(style->getZOrder());
-    boxes.push_back(box);
+    labels.push_back(new Label(box, mainColor));
 }
 
 void DataLabels::addTo(std::vector<DrawObj *> &objects) const {
-    objects.insert(objects.end(), boxes.begin(), boxes.end());
+    objects.insert(objects.end(), labels.begin(), labels.end());
 }

@@ -11,7 +11,8 @@ class TextBoxImpl2;
 
 // The labels of a layer's points for one paint: for each spot the label
 // style that applies (a custom label, the data set's, the layer's), its
-// template filled with the point's attributes, placed by the spot.
+// template filled with the point's attributes, placed by the spot.  A label
+// paints with kSameAsMainColor standing for its data set's colour.
 class DataLabels {
 public:
     explicit DataLabels(LayerImpl *layer) : layer(layer) {}
@@ -24,8 +25,8 @@ public:
     void clear();
     // The labels as objects to paint, in the z order of their styles.
     void addTo(std::vector<DrawObj *> &objects) const;
-    int getCount() const { return (int)boxes.size(); }
-    TextBoxImpl2 *getLabel(int i) const { return boxes[i]; }
+    int getCount() const { return (int)labels.size(); }
+    TextBoxImpl2 *getLabel(int i) const;
 
 private:
     // The style a spot's label reads from and its template; null when the
@@ -33,6 +34,8 @@ private:
     TextBoxImpl *styleOf(const LabelSpot &spot, const char **templateText) const;
     void makeLabel(const LabelSpot &spot);
 
+    class Label;
+
     LayerImpl *layer;
-    std::vector<TextBoxImpl2 *> boxes;
+    std::vector<Label *> labels;
 };

@@ -106,3 +106,18 @@ TEST(BarLabels, ImageMapAreasAreTheBarsWithTheirAttributes) {
     EXPECT_EQ(polygons[0].shape, "poly");
     EXPECT_STREQ(solid->getImageCoor(0, 9, 0, 0), "");
 }
+
+TEST(BarLabels, TheMainColourOfALabelIsItsDataSetsColour) {
+    Owned<XYChartImpl> chart(newBarChart());
+    chart->yAxis()->setLinearScale(0, 10, 5, 0);
+    BarLayer *layer = chart->addBarLayer2(kSide, 0);
+    std::vector<double> v = {5};
+    layer->addDataSet(values(v), 0xFF0000, "");
+    layer->addDataSet(values(v), 0x0000FF, "");
+    layer->setAggregateLabelStyle("", 8, 0xFFFFFF, 0)->setBackground(kSameAsMainColor, -1, 0);
+    DrawArea *d = chart->makeChart();
+    std::vector<TextAt> texts = labelTexts(d);
+    ASSERT_EQ(texts.size(), 2u);
+    EXPECT_EQ(d->getPixel(texts[0].x - 1, texts[0].y), 0xFF0000);
+    EXPECT_EQ(d->getPixel(texts[1].x - 1, texts[1].y), 0x0000FF);
+}

@@ -256,4 +256,14 @@ TEST(LayerData, ZeroDirectionFollowsTheBaseLineAndTheData) {
     EXPECT_EQ(layer->getZeroDirection(y), 1);
     y->setReverse(true);
     EXPECT_EQ(layer->getZeroDirection(y), 0);
+
+    // Bars take their base from the main y axis while a set uses it, from the
+    // first set's axis when they stack or none does.
+    layer->addDataSet(values(up), -1, "")->setUseYAxis2(true);
+    EXPECT_EQ(layer->getDefaultBaseLineAxis(), y);
+    set->setUseYAxis2(true);
+    EXPECT_EQ(layer->getDefaultBaseLineAxis(), AxisImpl::of(chart->yAxis2()));
+    set->setUseYAxis(nullptr);
+    layer->setDataCombineMethod(kStack);
+    EXPECT_EQ(layer->getDefaultBaseLineAxis(), y);
 }
