@@ -24,23 +24,6 @@ const int kMaxSectors = 48;
 const size_t kMaxTexts = 64;
 const size_t kMaxText = 200;
 
-double valueOf(uint8_t b) {
-    switch (b) {
-        case 0xFF:
-            return kNoValue;
-        case 0xFE:
-            return NAN;
-        case 0xFD:
-            return INFINITY;
-        case 0xFC:
-            return 1e308;
-        case 0xFB:
-            return -1e-300;
-        default:
-            return (int8_t)b * 0.75;
-    }
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
@@ -48,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     const uint8_t *c = data;
     int n = std::min<int>(c[2] % (kMaxSectors + 1), (int)(size - kControl));
     std::vector<double> values;
-    for (int i = 0; i < n; ++i) values.push_back(valueOf(data[kControl + i]));
+    for (int i = 0; i < n; ++i) values.push_back(valueOfByte(data[kControl + i]));
     std::vector<std::string> texts =
         splitTexts(data + kControl + n, size - kControl - n, kMaxTexts, kMaxText);
     std::vector<const char *> labels;

@@ -24,6 +24,8 @@ namespace {
 const int kSameOffset = -2147483647;
 // Equal limits of a fixed scale move this far apart.
 const double kLinearGap = 1e-5;
+// setIndent's states: not said, on, off.
+enum { kIndentUnset = 0, kIndentOn = 1, kIndentOff = 2 };
 // Chart times of 1800-01-01 and 2200-01-01: the span where getFormattedLabel
 // takes a bare value for a date.
 const double kFirstDate = 56770934400.0;
@@ -71,7 +73,9 @@ AxisImpl::AxisImpl(BaseChart *owner, DrawArea *drawArea, const Formatter *format
       length(100),
       marginTop(0),
       marginBottom(0),
-      indentMode(0),
+      indentMode(kIndentUnset),
+      defaultIndent(false),
+      labelled(false),
       layoutDone(false),
       fieldSource(nullptr),
       dataMin(kNoValue),
@@ -143,6 +147,7 @@ void AxisImpl::setMapping(int type, double lower, double upper) {
         scaleMode = type == kDateScale ? kFixedDate : kFixedLinear;
     }
     scaleType = type;
+    labelled = false;
 }
 
 void AxisImpl::fixLinearScale(int type, double lower, double upper, double major, double minor) {
@@ -232,6 +237,7 @@ void AxisImpl::setLabelledScale(int type, double lower, double upper, StringArra
         }
     }
     setMapping(type, mappedLower, mappedUpper);
+    labelled = true;
     ticks.clear();
     int n = std::max(labels.len, 0);
     double step = (upper - lower) / std::max(n - 1, 1);
@@ -290,7 +296,17 @@ void AxisImpl::setMargin(int top, int bottom) {
 }
 
 void AxisImpl::setIndent(bool indent) {
-    indentMode = indent ? 1 : 0;
+    indentMode = indent ? kIndentOn : kIndentOff;
+}
+
+bool AxisImpl::isIndented() const {
+    if (indentMode == kIndentUnset) return defaultIndent && labelled;
+    return indentMode == kIndentOn;
+}
+
+int AxisImpl::lowEndMargin() const {
+    bool vertical = orientation.alignment == kLeft || orientation.alignment == kRight;
+    return vertical ? marginBottom : marginTop;
 }
 
 void AxisImpl::setLabelStep(int majorStep, int minorStep, int majorOffset, int minorOffset) {
@@ -346,6 +362,7 @@ void AxisImpl::setLabels(StringArray labels) {
 void AxisImpl::setLabels2(DoubleArray values, const char *formatString) {
     setMapping(kLinearScale, 0, std::max(values.len, 1) - 1);
     if (values.len <= 1) mapping.setLinear(-kLinearGap, kLinearGap);
+    labelled = true;
     ticks.clear();
     tickStep = values.len > 1 ? 1 : 0;
     for (int i = 0; i < values.len; ++i) {
@@ -397,11 +414,11 @@ double AxisImpl::getCoor(double value) const {
     }
     double f = mapping.toFraction(value);
     if (reversed) f = 1 - f;
-    if (indentMode == 1) {
+    if (isIndented()) {
         double span = std::fabs(mapping.getUpper() - mapping.getLower());
         f = (f * span + 0.5) / (span + 1);
     }
-    return (double)usableLength() * f + marginTop;
+    return (double)usableLength() * f + lowEndMargin();
 }
 
 double AxisImpl::getValue(double coor) const {
@@ -415,8 +432,8 @@ double AxisImpl::getValue(double coor) const {
     }
     long long usable = usableLength();
     if (usable == 0) return kNoValue;
-    double f = (coor - marginTop) / (double)usable;
-    if (indentMode == 1) {
+    double f = (coor - lowEndMargin()) / (double)usable;
+    if (isIndented()) {
         double span = std::fabs(mapping.getUpper() - mapping.getLower());
         f = f * (span + 1) / (span == 0 ? 1 : span) - 0.5 / (span == 0 ? 1 : span);
     }

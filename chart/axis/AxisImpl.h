@@ -121,6 +121,10 @@ public:
     // What a chart kind or layer prefers where the caller set nothing.
     void setDefaultExtensions(double top, double bottom, double zeroAffinity);
     void setDefaultRounding(int roundMin, int roundMax);
+    // Whether a scale of labels gives each label a slot of its own when the
+    // caller has not said: the layers that draw a category as a block ask for it.
+    void setDefaultIndent(bool indent) { defaultIndent = indent; }
+    bool isIndented() const;
     // The chart's extra fields, for "{fieldN}" in label formats; not owned.
     void setFieldSource(TemplateFieldSource *fields) { fieldSource = fields; }
 
@@ -182,6 +186,9 @@ private:
     void takeLabelAngle();
     // Pixels the scale spreads over; wide enough that no length and margins overflow.
     long long usableLength() const { return (long long)length - marginTop - marginBottom; }
+    // The margin at the end where the scale starts: the left of a horizontal
+    // axis, the bottom of a vertical one.
+    int lowEndMargin() const;
     int majorTickCount() const;
     int minorTicksPerMajor(int majors) const;
 
@@ -209,6 +216,9 @@ private:
     int marginTop;
     int marginBottom;
     int indentMode;
+    bool defaultIndent;
+    // The scale was made from labels (setLabels and its kin).
+    bool labelled;
     bool layoutDone;
 
     AxisOrientation orientation;

@@ -4,10 +4,11 @@
 #include <cmath>
 #include <cstdio>
 
+#include "chart/legend/LegendIcon.h"
 #include "chart/legend/UserLegendText.h"
 #include "chart/symbol/DataSymbol.h"
-#include "draw/pixel/ColorWords.h"
 #include "draw/canvas/DrawArea.h"
+#include "draw/pixel/ColorWords.h"
 #include "foundation/Constants.h"
 #include "text/template/TemplateHelpers.h"
 #include "text/template/VSParser.h"
@@ -87,6 +88,10 @@ void LegendBoxImpl::addLegendItem(int order, LegendText *text, int color, int li
     items.push_back(new LegendItem(order, text, color, lineWidth, symbol, nullptr, false));
 }
 
+void LegendBoxImpl::addLegendItem(int order, LegendText *text, LegendIcon *painter) {
+    items.push_back(new LegendItem(order, text, painter));
+}
+
 void LegendBoxImpl::setCols(int n) {
     cols = std::max(std::min(n, kMaxCols), -kMaxCols);
     gridMode = n != 0;
@@ -144,6 +149,11 @@ void LegendBoxImpl::settleKeyStyle() {
     for (LegendItem *item : items) {
         bool line = item->isLineKey(probe);
         anyLine = anyLine || line;
+        if (LegendIcon *icon = item->getPainter()) {
+            autoWidth = std::max(autoWidth, icon->getWidth());
+            autoHeight = std::max(autoHeight, icon->getHeight());
+            continue;
+        }
         DataSymbol *s = item->getSymbol();
         if (!s || !s->isVisible()) continue;
         autoWidth = std::max(autoWidth, s->getWidth() * (line ? 2 : 1));

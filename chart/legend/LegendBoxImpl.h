@@ -8,6 +8,7 @@
 #include "text/box/TextBoxImpl.h"
 
 class DataSymbol;
+class LegendIcon;
 class LegendText;
 
 // The legend of a chart.  Layers add their keys at layout time with
@@ -41,6 +42,8 @@ public:
 
     // A key of a chart layer, ordered by order; takes text, borrows symbol.
     void addLegendItem(int order, LegendText *text, int color, int lineWidth, DataSymbol *symbol);
+    // A key that draws itself; takes text and painter.
+    void addLegendItem(int order, LegendText *text, LegendIcon *painter);
     int getItemCount() const { return (int)(items.size() + frontItems.size()); }
     bool isGridMode() const { return gridMode; }
     int getCols() const { return cols; }

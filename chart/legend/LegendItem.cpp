@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
+#include "chart/legend/LegendIcon.h"
 #include "chart/legend/LegendText.h"
 #include "chart/symbol/DataSymbol.h"
-#include "draw/pixel/ColorWords.h"
 #include "draw/canvas/DrawArea.h"
+#include "draw/pixel/ColorWords.h"
 #include "foundation/Constants.h"
 #include "text/layout/TTFText.h"
 
@@ -28,6 +29,7 @@ LegendItem::LegendItem(int order, LegendText *text, int color, int lineWidth, Da
       lineWidth(lineWidth),
       symbol(symbol),
       icon(icon),
+      painter(nullptr),
       keyless(keyless),
       textObject(nullptr) {
     if (!icon) return;
@@ -36,7 +38,13 @@ LegendItem::LegendItem(int order, LegendText *text, int color, int lineWidth, Da
     this->symbol->setCustom(icon);
 }
 
+LegendItem::LegendItem(int order, LegendText *text, LegendIcon *painter)
+    : LegendItem(order, text, kTransparent, -1, nullptr, nullptr, false) {
+    this->painter = painter;
+}
+
 LegendItem::~LegendItem() {
+    delete painter;
     if (textObject) textObject->destroy();
     if (icon) {
         delete symbol;
@@ -95,6 +103,10 @@ void LegendItem::paint(DrawArea *d, const LegendKeyStyle &style, int left, int t
 
 void LegendItem::drawIcon(DrawArea *d, const LegendKeyStyle &style, int left, int top) {
     int w = style.keyWidth, h = style.keyHeight;
+    if (painter) {
+        painter->paint(d, left, top, w, h, style.keyEdgeColor, style.keyRaisedEffect);
+        return;
+    }
     int cx = left + (w - 1) / 2, cy = top + (h - 1) / 2;
     bool showSymbol = symbol && symbol->isVisible();
     if (isLineKey(style)) {

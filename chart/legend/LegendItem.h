@@ -4,6 +4,7 @@
 
 class DataSymbol;
 class DrawArea;
+class LegendIcon;
 class LegendText;
 class TTFText;
 
@@ -31,6 +32,8 @@ public:
     // stands in for the symbol.  A keyless item shows its text only.
     LegendItem(int order, LegendText *text, int color, int lineWidth, DataSymbol *symbol,
                DrawArea *icon, bool keyless);
+    // A key that draws itself; takes text and painter.
+    LegendItem(int order, LegendText *text, LegendIcon *painter);
     ~LegendItem();
     LegendItem(const LegendItem &) = delete;
     LegendItem &operator=(const LegendItem &) = delete;
@@ -39,6 +42,7 @@ public:
 
     int getOrder() const { return order; }
     DataSymbol *getSymbol() const { return symbol; }
+    LegendIcon *getPainter() const { return painter; }
     bool isLineKey(const LegendKeyStyle &style) const;
     // Whether this item shows a key in a legend of the given key size.
     bool hasKey(const LegendKeyStyle &style) const;
@@ -65,6 +69,7 @@ private:
     int lineWidth;
     DataSymbol *symbol;
     DrawArea *icon;
+    LegendIcon *painter;
     bool keyless;
     TTFText *textObject;
 };

@@ -180,6 +180,24 @@ PlotLayer *PlotAreaImpl::getLayer(int i) const {
     return i >= 0 && i < (int)layers.size() ? layers[i] : nullptr;
 }
 
+int PlotAreaImpl::indexOfLayer(const PlotLayer *layer) const {
+    auto at = std::find(layers.begin(), layers.end(), layer);
+    return at == layers.end() ? -1 : (int)(at - layers.begin());
+}
+
+// The first layer in the list stands in front.
+void PlotAreaImpl::moveLayer(PlotLayer *layer, PlotLayer *other, bool front) {
+    int from = indexOfLayer(layer);
+    if (from < 0 || layer == other) return;
+    layers.erase(layers.begin() + from);
+    int to = other ? indexOfLayer(other) : -1;
+    if (to < 0)
+        to = front ? 0 : (int)layers.size();
+    else if (!front)
+        ++to;
+    layers.insert(layers.begin() + to, layer);
+}
+
 // ---- Layout ----
 
 void PlotAreaImpl::layoutLegend() {

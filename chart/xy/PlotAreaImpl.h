@@ -75,6 +75,11 @@ public:
     void addLayer(PlotLayer *layer);
     int getLayerCount() const { return (int)layers.size(); }
     PlotLayer *getLayer(int i) const;
+    // The place of the layer in the list; -1 if it is none of the chart's.
+    int indexOfLayer(const PlotLayer *layer) const;
+    // Moves the layer just in front of (before in the list) or behind the
+    // other one; with no other one, to the front or the back of all.
+    void moveLayer(PlotLayer *layer, PlotLayer *other, bool front);
 
     // Layout.
     void layoutLegend();

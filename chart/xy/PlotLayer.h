@@ -47,6 +47,11 @@ public:
     virtual bool hasXData() const = 0;
     virtual double getNearestXValue(double coor) = 0;
 
+    // The "<area>" elements of the layer's hot spots, each ended by a new
+    // line; null or empty for none.  The chart has been laid out.
+    virtual const char *getHTMLImageMap(const char *url, const char *queryFormat,
+                                        const char *extraAttr, int offsetX, int offsetY) = 0;
+
 protected:
     virtual ~PlotLayer() {}
 };

@@ -3,6 +3,7 @@
 #include "chart/base/BaseChart.h"
 
 class Axis;
+class BarLayer;
 class Layer;
 class PlotArea;
 
@@ -50,6 +51,15 @@ public:
     virtual void setClipping(int margin) = 0;
     // The window of data indices the layers draw.
     virtual void setTrimData(int startPos, int len) = 0;
+
+    // Layer makers; the chart owns what they make.  A bar layer of one data
+    // set; a bar layer without data that combines the sets added to it by the
+    // method (kSide, kStack, ...); a bar layer with a colour and a legend
+    // name for each bar.  A depth above 0 draws the bars in 3D.
+    virtual BarLayer *addBarLayer(DoubleArray data, int color, const char *name, int depth) = 0;
+    virtual BarLayer *addBarLayer2(int dataCombineMethod, int depth) = 0;
+    virtual BarLayer *addBarLayer3(DoubleArray data, IntArray colors, StringArray names,
+                                   int depth) = 0;
 
     // Layers in the order of adding; by z, 0 is the bottom one.  Null out of range.
     virtual Layer *getLayer(int i) = 0;

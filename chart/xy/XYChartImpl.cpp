@@ -1,6 +1,9 @@
 #include "chart/xy/XYChartImpl.h"
 
+#include <string>
+
 #include "chart/axis/AxisImpl.h"
+#include "chart/xy/LayerMakers.h"
 #include "chart/xy/PlotLayer.h"
 #include "draw/pixel/ColorWords.h"
 #include "foundation/Constants.h"
@@ -90,6 +93,26 @@ void XYChartImpl::packPlotArea(int leftX, int topY, int rightX, int bottomY, int
     plotArea.packPlotArea(leftX, topY, rightX, bottomY, minWidth, minHeight);
 }
 
+BarLayer *XYChartImpl::addBarLayer(DoubleArray data, int color, const char *name, int depth) {
+    LayerMakers *makers = LayerMakers::get();
+    return makers ? makers->makeBarLayer(this, data, color, name, depth) : nullptr;
+}
+
+BarLayer *XYChartImpl::addBarLayer2(int dataCombineMethod, int depth) {
+    LayerMakers *makers = LayerMakers::get();
+    return makers ? makers->makeBarLayer2(this, dataCombineMethod, depth) : nullptr;
+}
+
+BarLayer *XYChartImpl::addBarLayer3(DoubleArray data, IntArray colors, StringArray names,
+                                    int depth) {
+    LayerMakers *makers = LayerMakers::get();
+    return makers ? makers->makeBarLayer3(this, data, colors, names, depth) : nullptr;
+}
+
+TemplateFieldSource *XYChartImpl::getChartFields() {
+    return getExtraFields();
+}
+
 Layer *XYChartImpl::getLayer(int i) {
     PlotLayer *layer = plotArea.getLayer(i);
     return layer ? layer->getLayer() : nullptr;
@@ -140,6 +163,15 @@ void XYChartImpl::onPaint() {
     plotArea.paintFront();
 }
 
-const char *XYChartImpl::onGetHTMLImageMap(const char *, const char *, const char *, int, int) {
-    return nullptr;
+// The first layer added stands on top, so its areas come first.
+const char *XYChartImpl::onGetHTMLImageMap(const char *url, const char *queryFormat,
+                                           const char *extraAttr, int offsetX, int offsetY) {
+    layout();
+    imageMap.clear();
+    for (int i = 0; i < plotArea.getLayerCount(); ++i) {
+        const char *map =
+            plotArea.getLayer(i)->getHTMLImageMap(url, queryFormat, extraAttr, offsetX, offsetY);
+        if (map) imageMap += map;
+    }
+    return imageMap.c_str();
 }

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <string>
+
 #include "chart/base/BaseChartImpl.h"
 #include "chart/xy/PlotAreaImpl.h"
 #include "chart/xy/XYChart.h"
 
+class LegendBoxImpl;
 class PlotLayer;
+class TemplateFieldSource;
 
 // An XY chart: the chart frame of BaseChartImpl with a plot area.  Its hooks
 // lay out the layers and axes and paint the plot in its passes.  Without
@@ -41,6 +45,11 @@ public:
     void setClipping(int margin) override { plotArea.setClipping(margin); }
     void setTrimData(int startPos, int len) override { plotArea.setTrimData(startPos, len); }
 
+    BarLayer *addBarLayer(DoubleArray data, int color, const char *name, int depth) override;
+    BarLayer *addBarLayer2(int dataCombineMethod, int depth) override;
+    BarLayer *addBarLayer3(DoubleArray data, IntArray colors, StringArray names,
+                           int depth) override;
+
     Layer *getLayer(int i) override;
     Layer *getLayerByZ(int i) override;
     int getLayerCount() override { return plotArea.getLayerCount(); }
@@ -54,6 +63,10 @@ public:
     // For the layer makers: the chart owns the layer from here on.
     void addLayer(PlotLayer *layer) { plotArea.addLayer(layer); }
     PlotAreaImpl &getPlotAreaImpl() { return plotArea; }
+    // For the layers: the legend their keys go into, if the chart has one;
+    // the chart's {fieldN} columns.
+    LegendBoxImpl *getLegendForKeys() const { return existingLegend(); }
+    TemplateFieldSource *getChartFields();
 
     using BaseChartImpl::initChart;
 
@@ -68,4 +81,5 @@ private:
     AxisImpl *yAxisOrDefault(Axis *axis);
 
     PlotAreaImpl plotArea;
+    std::string imageMap;
 };

@@ -14,6 +14,10 @@ struct GallerySample {
 
 std::vector<GallerySample> &gallerySamples();
 
+// Writes the output of the reference workload of that name (bench/workloads),
+// so that a sample shows the picture as it is timed.
+bool saveWorkload(const char *name, const std::string &path);
+
 struct GalleryRegistrar {
     explicit GalleryRegistrar(const GallerySample &sample) { gallerySamples().push_back(sample); }
 };

@@ -1,10 +1,7 @@
 // Pie charts: the W3 workload, donuts, 3D pies with exploded sectors, side and
 // circular labels, a legend, and the shading methods of sector tops.
-#include <cstdio>
-#include <cstring>
 #include <string>
 
-#include "bench/workloads/Workloads.h"
 #include "chart/base/MultiChart.h"
 #include "chart/legend/LegendBox.h"
 #include "draw/pixel/ColorWords.h"
@@ -34,12 +31,7 @@ PieChart *salesPie(int width, int height, const char *title, int n) {
 }
 
 bool workloadW3(const std::string &path) {
-    const Workload *w = findWorkload("W3");
-    if (!w) return false;
-    BaseChart *c = w->build();
-    bool ok = c->makeChart(path.c_str());
-    c->destroy();
-    return ok;
+    return saveWorkload("W3", path);
 }
 
 bool donut(const std::string &path) {

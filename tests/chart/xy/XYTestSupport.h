@@ -49,6 +49,11 @@ public:
     void paintAbove() override { log->push_back(name + ".paintAbove"); }
     bool hasXData() const override { return nearestX != kNoValue; }
     double getNearestXValue(double coor) override { return nearestX + coor * 0; }
+    const char *getHTMLImageMap(const char *, const char *, const char *, int offsetX,
+                                int) override {
+        mapText = "<area " + name + " " + std::to_string(offsetX) + ">\n";
+        return mapText.c_str();
+    }
 
     int depthX = 0;
     int depthY = 0;
@@ -64,6 +69,7 @@ private:
     std::vector<std::string> *log;
     std::string name;
     DrawArea *canvas;
+    std::string mapText;
 };
 
 inline XYChartImpl *newXYChart(int width = 400, int height = 300) {
