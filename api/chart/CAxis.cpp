@@ -2,8 +2,11 @@
 
 #include "api/chart/ChartHandles.h"
 #include "chart/axis/Axis.h"
+#include "chart/axis/paint/Mark.h"
+#include "text/box/TextBox.h"
 
 using vistrel_api::E;
+using vistrel_api::H;
 using vistrel_api::putView;
 
 void CAxis_setLinearScale(CAxis *a, double lowerLimit, double upperLimit, double majorTickInc,
@@ -117,4 +120,60 @@ const char *CAxis_getLabel(CAxis *a, double value) {
 }
 const char *CAxis_getFormattedLabel(CAxis *a, double value, const char *format) {
     return a ? E(a)->getFormattedLabel(value, format ? format : "") : nullptr;
+}
+
+void CAxis_setColors(CAxis *a, int axisColor, int labelColor, int titleColor, int tickColor) {
+    if (a) E(a)->setColors(axisColor, labelColor, titleColor, tickColor);
+}
+CTextBox *CAxis_setTitle(CAxis *a, const char *text, const char *font, double fontSize,
+                         int fontColor) {
+    return a ? H(E(a)->setTitle(text ? text : "", font ? font : "", fontSize, fontColor)) : nullptr;
+}
+void CAxis_setTitlePos(CAxis *a, int alignment, int titleGap) {
+    if (a) E(a)->setTitlePos(alignment, titleGap);
+}
+CTextBox *CAxis_setLabelStyle(CAxis *a, const char *font, double fontSize, int fontColor,
+                              double fontAngle) {
+    return a ? H(E(a)->setLabelStyle(font ? font : "", fontSize, fontColor, fontAngle)) : nullptr;
+}
+void CAxis_setLabelGap(CAxis *a, int gap) {
+    if (a) E(a)->setLabelGap(gap);
+}
+void CAxis_setLabelAlignment(CAxis *a, int alignment, int minLabelSpace) {
+    if (a) E(a)->setLabelAlignment(alignment, minLabelSpace);
+}
+void CAxis_setTickLength(CAxis *a, int majorTickLength) {
+    if (a) E(a)->setTickLength(majorTickLength);
+}
+void CAxis_setTickLength2(CAxis *a, int majorTickLength, int minorTickLength) {
+    if (a) E(a)->setTickLength2(majorTickLength, minorTickLength);
+}
+void CAxis_setTickColor(CAxis *a, int majorTickColor, int minorTickColor) {
+    if (a) E(a)->setTickColor(majorTickColor, minorTickColor);
+}
+void CAxis_setTickWidth(CAxis *a, int majorTickWidth, int minorTickWidth) {
+    if (a) E(a)->setTickWidth(majorTickWidth, minorTickWidth);
+}
+void CAxis_setWidth(CAxis *a, int width) {
+    if (a) E(a)->setWidth(width);
+}
+void CAxis_setOffset(CAxis *a, int x, int y) {
+    if (a) E(a)->setOffset(x, y);
+}
+void CAxis_setTickOffset(CAxis *a, double offset) {
+    if (a) E(a)->setTickOffset(offset);
+}
+void CAxis_setLabelOffset(CAxis *a, double offset) {
+    if (a) E(a)->setLabelOffset(offset);
+}
+CMark *CAxis_addMark(CAxis *a, double value, int lineColor, const char *text, const char *font,
+                     double fontSize) {
+    return a ? H(E(a)->addMark(value, lineColor, text ? text : "", font ? font : "", fontSize))
+             : nullptr;
+}
+void CAxis_addZone(CAxis *a, double startValue, double endValue, int color) {
+    if (a) E(a)->addZone(startValue, endValue, color);
+}
+int CAxis_getAlignment(CAxis *a) {
+    return a ? E(a)->getAlignment() : 0;
 }

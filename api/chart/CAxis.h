@@ -56,6 +56,33 @@ void CAxis_getTicks(CAxis *a, const double **data, int *len);
 const char *CAxis_getLabel(CAxis *a, double value);
 const char *CAxis_getFormattedLabel(CAxis *a, double value, const char *format);
 
+/* The look: line, ticks, labels, title, marks and zones.  A titleColor of -1
+   takes the label colour, a tickColor of -1 the axis colour. */
+void CAxis_setColors(CAxis *a, int axisColor, int labelColor, int titleColor, int tickColor);
+/* The title's box and the prototype of every label's box; they live with the
+   chart. */
+CTextBox *CAxis_setTitle(CAxis *a, const char *text, const char *font, double fontSize,
+                         int fontColor);
+void CAxis_setTitlePos(CAxis *a, int alignment, int titleGap);
+CTextBox *CAxis_setLabelStyle(CAxis *a, const char *font, double fontSize, int fontColor,
+                              double fontAngle);
+void CAxis_setLabelGap(CAxis *a, int gap);
+void CAxis_setLabelAlignment(CAxis *a, int alignment, int minLabelSpace);
+/* Minor ticks half as long. */
+void CAxis_setTickLength(CAxis *a, int majorTickLength);
+void CAxis_setTickLength2(CAxis *a, int majorTickLength, int minorTickLength);
+void CAxis_setTickColor(CAxis *a, int majorTickColor, int minorTickColor);
+void CAxis_setTickWidth(CAxis *a, int majorTickWidth, int minorTickWidth);
+void CAxis_setWidth(CAxis *a, int width);
+void CAxis_setOffset(CAxis *a, int x, int y);
+void CAxis_setTickOffset(CAxis *a, double offset);
+void CAxis_setLabelOffset(CAxis *a, double offset);
+CMark *CAxis_addMark(CAxis *a, double value, int lineColor, const char *text, const char *font,
+                     double fontSize);
+void CAxis_addZone(CAxis *a, double startValue, double endValue, int color);
+/* kBottom, kLeft, kRight or kTop. */
+int CAxis_getAlignment(CAxis *a);
+
 #ifdef __cplusplus
 }
 #endif

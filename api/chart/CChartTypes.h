@@ -19,6 +19,8 @@ typedef struct CLine CLine;
 typedef struct CLegendBox CLegendBox;
 typedef struct CVSMLTable CVSMLTable;
 typedef struct CAxis CAxis;
+typedef struct CMark CMark;
+typedef struct CLineObj CLineObj;
 
 #ifdef __cplusplus
 }

@@ -9,33 +9,25 @@ class Box;
 class DrawObj;
 class LegendBox;
 class Line;
+class LineObj;
+class Mark;
 class MultiChart;
 class TextBox;
 class VSMLTable;
 
-// The handles of the chart core are the engine objects themselves; a handle
-// of a derived class becomes its base's through the conversion functions,
-// since the bases are virtual.
+// The handles of the chart core are the engine objects themselves.
 namespace vistrel_api {
 
-#define VISTREL_CHART_HANDLE(Engine)             \
-    inline Engine *E(C##Engine *h) {             \
-        return reinterpret_cast<Engine *>(h);    \
-    }                                            \
-    inline C##Engine *H(Engine *e) {             \
-        return reinterpret_cast<C##Engine *>(e); \
-    }
-
-VISTREL_CHART_HANDLE(BaseChart)
-VISTREL_CHART_HANDLE(MultiChart)
-VISTREL_CHART_HANDLE(DrawObj)
-VISTREL_CHART_HANDLE(Box)
-VISTREL_CHART_HANDLE(TextBox)
-VISTREL_CHART_HANDLE(Line)
-VISTREL_CHART_HANDLE(LegendBox)
-VISTREL_CHART_HANDLE(VSMLTable)
-VISTREL_CHART_HANDLE(Axis)
-
-#undef VISTREL_CHART_HANDLE
+VISTREL_HANDLE_OF(BaseChart)
+VISTREL_HANDLE_OF(MultiChart)
+VISTREL_HANDLE_OF(DrawObj)
+VISTREL_HANDLE_OF(Box)
+VISTREL_HANDLE_OF(TextBox)
+VISTREL_HANDLE_OF(Line)
+VISTREL_HANDLE_OF(LegendBox)
+VISTREL_HANDLE_OF(VSMLTable)
+VISTREL_HANDLE_OF(Axis)
+VISTREL_HANDLE_OF(Mark)
+VISTREL_HANDLE_OF(LineObj)
 
 }  // namespace vistrel_api

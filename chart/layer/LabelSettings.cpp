@@ -62,9 +62,9 @@ TextBox *LabelSettings::setAggregateStyle(const char *font, double fontSize, int
 TextBoxImpl2 *LabelSettings::makeLabel(TextBoxImpl2 *&slot, TextBoxImpl *parent, const char *label,
                                        const char *font, double fontSize, int fontColor,
                                        double fontAngle) {
-    // A second label for the same place replaces the first.
-    if (slot) slot->release();
-    slot = new TextBoxImpl2(chart, parent);
+    // A second label for the same place takes over the box of the first, so
+    // that a box handed out stays valid while its chart lives.
+    if (!slot) slot = new TextBoxImpl2(chart, parent);
     slot->setText(label ? label : "");
     applyStyle(slot, font, fontSize, fontColor, fontAngle);
     return slot;

@@ -35,7 +35,17 @@ PieChartImpl::PieChartImpl() : labelPrototype(new TextBoxImpl(this)), view(kPi, 
 
 PieChartImpl::~PieChartImpl() {
     for (SectorImpl *s : sectors) delete s;
+    for (SectorImpl *s : retiredSectors) delete s;
     labelPrototype->release();
+}
+
+SectorImpl *PieChartImpl::sectorAt(int index) {
+    auto retired = std::find_if(retiredSectors.begin(), retiredSectors.end(),
+                                [index](const SectorImpl *s) { return s->getIndex() == index; });
+    if (retired == retiredSectors.end()) return new SectorImpl(this, labelPrototype, index);
+    SectorImpl *s = *retired;
+    retiredSectors.erase(retired);
+    return s;
 }
 
 // ---- Settings ----
@@ -74,11 +84,11 @@ void PieChartImpl::set3D2(DoubleArray depths, double angle, bool shadowMode) {
 
 void PieChartImpl::setData(DoubleArray data, StringArray labels) {
     int n = std::max(data.len, 0);
-    // Sectors the application may hold stay; only the count changes.
-    for (int i = n; i < (int)sectors.size(); ++i) delete sectors[i];
+    // Sectors the application may hold outlive a shorter data set: they are
+    // put aside with their settings, and come back when their index does.
+    for (int i = n; i < (int)sectors.size(); ++i) retiredSectors.push_back(sectors[i]);
     sectors.resize(std::min((int)sectors.size(), n));
-    while ((int)sectors.size() < n)
-        sectors.push_back(new SectorImpl(this, labelPrototype, (int)sectors.size()));
+    while ((int)sectors.size() < n) sectors.push_back(sectorAt((int)sectors.size()));
     for (int i = 0; i < n; ++i)
         sectors[i]->setData(data.data[i], i < labels.len ? labels.data[i] : nullptr);
 }

@@ -54,9 +54,13 @@ protected:
 private:
     void computeFractions();
     void set3DView(double angle, bool shadowMode);
+    // The sector of the index: one put aside earlier, or a new one.
+    SectorImpl *sectorAt(int index);
 
     PieSettings settings;
     std::vector<SectorImpl *> sectors;
+    // Sectors beyond the current data, kept for those who hold them.
+    std::vector<SectorImpl *> retiredSectors;
     TextBoxImpl *labelPrototype;
     PieView view;
     std::string imageMap;

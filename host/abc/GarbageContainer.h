@@ -21,6 +21,19 @@ public:
     }
     int garbageCount() const { return garbage.size(); }
 
+    // The wrapper of W kept for the handle (read by handleOf), or a new one
+    // kept from now on: an engine object that is handed out again, such as a
+    // label style, keeps one wrapper.  Null for a null handle.
+    template <class W, class H>
+    W *keepOnce(H *handle, H *(W::*handleOf)() const) {
+        if (!handle) return nullptr;
+        for (int i = 0; i < garbage.size(); ++i) {
+            W *w = dynamic_cast<W *>(garbage.at(i));
+            if (w && (w->*handleOf)() == handle) return w;
+        }
+        return addGarbage(new W(handle));
+    }
+
 private:
     AutoDeleteContainer<VSObject> garbage;
 };

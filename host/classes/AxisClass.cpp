@@ -1,7 +1,9 @@
-// VSAxisXPG: the scale of a chart axis.  No Constructor: axes come from their
-// chart, which caches one object per standing axis (see ChartParts.h).  The
-// painting setters join the table with the XY chart.
+// VSAxisXPG: the scale and the look of a chart axis.  No Constructor: axes come
+// from their chart, which caches one object per standing axis (see
+// ChartParts.h).  What an axis hands out (its title, label style and marks)
+// holds the axis's chart.
 #include "host/classes/ClassTables.h"
+#include "host/classes/LifetimeTables.h"
 #include "host/glue/ChartTargets.h"
 #include "host/glue/Forward.h"
 #include "host/glue/GlueArgs.h"
@@ -77,17 +79,59 @@ const MethodEntry kMethods[] = {
     method("getLabel(v as double) as string", fwd<&A::getLabel, Dbl>),
     method("getFormattedLabel(v as double, formatString as string = \"\") as string",
            fwd<&A::getFormattedLabel, Dbl, Str>),
+    method("setColors(axisColor as integer, labelColor as integer = &hFFFF0002, "
+           "titleColor as integer = -1, tickColor as integer = -1)",
+           fwd<&A::setColors, Color, Color, Color, Color>),
+    method("setColors(axisColor as color, labelColor as integer = &hFFFF0002, "
+           "titleColor as integer = -1, tickColor as integer = -1)",
+           fwd<&A::setColors, ColorC, Color, Color, Color>),
+    method("setColors(axisColor as color, labelColor as color, titleColor as integer = -1, "
+           "tickColor as integer = -1)", fwd<&A::setColors, ColorC, ColorC, Color, Color>),
+    method("setTitle(text as string, font as string = \"\", fontSize as double = 8, "
+           "fontColor as integer = &hFFFF0002) as VSTextBoxXPG",
+           fwd<&A::setTitle, Str, Str, Dbl, Color>),
+    method("setTitle(text as string, font as string, fontSize as double, fontColor as color) "
+           "as VSTextBoxXPG", fwd<&A::setTitle, Str, Str, Dbl, ColorC>),
+    method("setTitlePos(alignment as integer, titleGap as integer = 3)",
+           fwd<&A::setTitlePos, Int, Px>),
+    method("setLabelStyle(font as string = \"\", fontSize as double = 8, "
+           "fontColor as integer = &hFFFF0002, fontAngle as double = 0) as VSTextBoxXPG",
+           fwd<&A::setLabelStyle, Str, Dbl, Color, Dbl>),
+    method("setLabelStyle(font as string, fontSize as double, fontColor as color, "
+           "fontAngle as double = 0) as VSTextBoxXPG",
+           fwd<&A::setLabelStyle, Str, Dbl, ColorC, Dbl>),
+    method("setLabelGap(d as integer)", fwd<&A::setLabelGap, Px>),
+    method("setLabelAlignment(alignment as integer, minLabelSpace as integer = 3)",
+           fwd<&A::setLabelAlignment, Int, Px>),
+    method("setTickLength(majorTickLength as integer)", fwd<&A::setTickLength, Px>),
+    method("setTickLength(majorTickLength as integer, minorTickLength as integer)",
+           fwd<&A::setTickLength2, Px, Px>),
+    method("setTickColor(majorTickColor as integer, minorTickColor as integer = -1)",
+           fwd<&A::setTickColor, Color, Color>),
+    method("setTickColor(majorTickColor as color, minorTickColor as integer = -1)",
+           fwd<&A::setTickColor, ColorC, Color>),
+    method("setTickColor(majorTickColor as color, minorTickColor as color)",
+           fwd<&A::setTickColor, ColorC, ColorC>),
+    method("setTickWidth(majorTickWidth as integer, minorTickWidth as integer = -1)",
+           fwd<&A::setTickWidth, Px, PxAuto>),
+    method("setWidth(width as integer)", fwd<&A::setWidth, Px>),
+    method("setOffset(x as integer, y as integer)", fwd<&A::setOffset, Px, Px>),
+    method("setTickOffset(offset as double)", fwd<&A::setTickOffset, Dbl>),
+    method("setLabelOffset(offset as double)", fwd<&A::setLabelOffset, Dbl>),
+    method("addMark(value as double, lineColor as integer, text as string = \"\", "
+           "font as string = \"\", fontSize as double = 8) as VSMarkXPG",
+           fwd<&A::addMark, Dbl, Color, Str, Str, Dbl>),
+    method("addMark(value as double, lineColor as color, text as string = \"\", "
+           "font as string = \"\", fontSize as double = 8) as VSMarkXPG",
+           fwd<&A::addMark, Dbl, ColorC, Str, Str, Dbl>),
+    method("addZone(startValue as double, endValue as double, colorValue as integer)",
+           fwd<&A::addZone, Dbl, Dbl, Color>),
+    method("addZone(startValue as double, endValue as double, colorValue as color)",
+           fwd<&A::addZone, Dbl, Dbl, ColorC>),
+    method("getAlignment() as integer", fwd<&A::getAlignment>),
 };
 // clang-format on
 
 }  // namespace
 
-const ClassTables kAxisTables = {
-    tableOf(kMethods),
-    {nullptr, 0},
-    {nullptr, 0},
-    {nullptr, 0},
-    {nullptr, 0},
-    reinterpret_cast<REALproc>(&InitBlockOf<ClassId::Axis>),
-    reinterpret_cast<REALproc>(&AxisDestructor),
-};
+const ClassTables kAxisTables = rootTables<ClassId::Axis, &AxisDestructor>(tableOf(kMethods));

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "host/classes/ClassTables.h"
+#include "host/classes/LifetimeTables.h"
 #include "host/glue/Blocks.h"
 #include "host/glue/Lifetime.h"
 
@@ -29,15 +30,7 @@ namespace {
 // Classes registered with their block's lifetime only, until their declaration
 // tables are written.
 template <ClassId Root, void (*Finalizer)(REALobject) = &ReleaseRefsOf<Root>>
-const ClassTables kLifetime = {
-    {nullptr, 0},
-    {nullptr, 0},
-    {nullptr, 0},
-    {nullptr, 0},
-    {nullptr, 0},
-    reinterpret_cast<REALproc>(&InitBlockOf<Root>),
-    reinterpret_cast<REALproc>(Finalizer),
-};
+const ClassTables kLifetime = rootTables<Root, Finalizer>({nullptr, 0});
 
 template <class W>
 constexpr size_t kPlain = sizeof(HandleBlock<W>);
@@ -56,7 +49,7 @@ const ClassSpec kClasses[kClassCount] = {
      &kLifetime<ClassId::ViewPortControlBase>},
     {"VSThreeDChartXPG", kChart, 0, 20, 3, nullptr},
     {"VSMLTableXPG", "VSDrawObjXPG", 0, 18, 0, nullptr},
-    {"VSPlotAreaXPG", nullptr, kPlain<abc::PlotArea>, 19, 0, &kLifetime<ClassId::PlotArea>},
+    {"VSPlotAreaXPG", nullptr, kPlain<abc::PlotArea>, 19, 0, &kPlotAreaTables},
     {"VSScatterLayerXPG", "VSLineLayerXPG", 0, 0, 0, nullptr},
     {"VSLinearMeterXPG", "VSBaseMeterXPG", 0, 9, 0, nullptr},
     {"VSBaseChartXPG", nullptr, sizeof(ChartBlock), 91, 2, &kBaseChartTables},
@@ -64,9 +57,8 @@ const ClassSpec kClasses[kClassCount] = {
     {"VSMultiChartXPG", kChart, 0, 6, 0, &kMultiChartTables},
     {"VSBoxWhiskerLayerXPG", "VSBaseBoxLayerXPG", 0, 7, 0, nullptr},
     {"VSPolarChartXPG", kChart, 0, 38, 2, nullptr},
-    {"VSDataSetXPG", nullptr, sizeof(DataSetBlock), 26, 0,
-     &kLifetime<ClassId::DataSet, &DataSetDestructor>},
-    {"VSSectorXPG", nullptr, kPlain<abc::Sector>, 16, 0, &kLifetime<ClassId::Sector>},
+    {"VSDataSetXPG", nullptr, sizeof(DataSetBlock), 26, 0, &kDataSetTables},
+    {"VSSectorXPG", nullptr, kPlain<abc::Sector>, 16, 0, &kSectorTables},
     {"VSLegendBoxXPG", "VSTextBoxXPG", 0, 15, 0, &kLegendBoxTables},
     {"VSPolarLineLayerXPG", "VSPolarLayerXPG", 0, 3, 0, nullptr},
     {"VSViewPortManagerXPG", nullptr, kPlain<abc::ViewPortManager>, 45, 0,
@@ -82,20 +74,19 @@ const ClassSpec kClasses[kClassCount] = {
     {"VSPolarLayerXPG", nullptr, sizeof(PolarLayerBlock), 25, 0,
      &kLifetime<ClassId::PolarLayer, &PolarLayerDestructor>},
     {"VSDrawObjXPG", nullptr, kPlain<abc::DrawObj>, 3, 0, &kDrawObjTables},
-    {"VSMarkXPG", "VSTextBoxXPG", 0, 6, 0, nullptr},
+    {"VSMarkXPG", "VSTextBoxXPG", 0, 6, 0, &kMarkTables},
     {"VSPolarAreaLayerXPG", "VSPolarLayerXPG", 0, 0, 0, nullptr},
     {"VSTextBoxXPG", "VSBoxXPG", 0, 13, 0, &kTextBoxTables},
     {"VSTTFTextXPG", nullptr, kPlain<abc::TTFText>, 8, 0, &kTTFTextTables},
-    {"VSLayerXPG", nullptr, sizeof(LayerBlock), 58, 0,
-     &kLifetime<ClassId::Layer, &LayerDestructor>},
+    {"VSLayerXPG", nullptr, sizeof(LayerBlock), 58, 0, &kLayerTables},
     {"VSMeterPointerXPG", "VSDrawObjXPG", 0, 17, 0, nullptr},
-    {"VSXYChartXPG", kChart, 0, 118, 4, nullptr},
-    {"VSBarLayerXPG", kLayer, 0, 11, 0, nullptr},
+    {"VSXYChartXPG", kChart, 0, 118, 4, &kXYChartTables},
+    {"VSBarLayerXPG", kLayer, 0, 11, 0, &kBarLayerTables},
     {"VSAngularAxisXPG", nullptr, kPlain<abc::AngularAxis>, 14, 0,
      &kLifetime<ClassId::AngularAxis>},
     {"VSLineXPG", "VSDrawObjXPG", 0, 4, 0, &kLineTables},
     {"VSCandleStickLayerXPG", "VSBaseBoxLayerXPG", 0, 4, 0, nullptr},
-    {"VSLineObjXPG", nullptr, kPlain<abc::LineObj>, 1, 0, &kLifetime<ClassId::LineObj>},
+    {"VSLineObjXPG", nullptr, kPlain<abc::LineObj>, 1, 0, &kLineObjTables},
     {"VSSplineLayerXPG", "VSLineLayerXPG", 0, 2, 0, nullptr},
     {"VSPolarVectorLayerXPG", "VSPolarLayerXPG", 0, 8, 0, nullptr},
     {"VSImageMapHandlerXPG", nullptr, kPlain<abc::ImageMapHandler>, 5, 0,
@@ -105,7 +96,7 @@ const ClassSpec kClasses[kClassCount] = {
     {"VSAngularMeterXPG", "VSBaseMeterXPG", 0, 40, 0, nullptr},
     {"VSAreaLayerXPG", kLayer, 0, 3, 0, nullptr},
     {"VSInterLineLayerXPG", kLayer, 0, 2, 0, nullptr},
-    {"VSPieChartXPG", kChart, 0, 24, 0, nullptr},
+    {"VSPieChartXPG", kChart, 0, 24, 0, &kPieChartTables},
     {"VSPolarSplineAreaLayerXPG", "VSPolarAreaLayerXPG", 0, 1, 0, nullptr},
     {"VSBoxXPG", "VSDrawObjXPG", 0, 11, 0, &kBoxTables},
     {"VSTrendLayerXPG", kLayer, 0, 12, 0, nullptr},

@@ -14,6 +14,15 @@ extern const ClassTables kTextBoxTables;
 extern const ClassTables kLineTables;
 extern const ClassTables kLegendBoxTables;
 extern const ClassTables kAxisTables;
+extern const ClassTables kXYChartTables;
+extern const ClassTables kPlotAreaTables;
+extern const ClassTables kLayerTables;
+extern const ClassTables kBarLayerTables;
+extern const ClassTables kDataSetTables;
+extern const ClassTables kMarkTables;
+extern const ClassTables kLineObjTables;
+extern const ClassTables kPieChartTables;
+extern const ClassTables kSectorTables;
 
 // The constants registered on VSBaseChartXPG: name and value as the host
 // language writes it.

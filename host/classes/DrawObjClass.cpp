@@ -1,6 +1,7 @@
 // VSDrawObjXPG: anything a chart paints in z order.  No Constructor: drawing
 // objects come from their chart, which they keep alive as their owner.
 #include "host/classes/ClassTables.h"
+#include "host/classes/LifetimeTables.h"
 #include "host/glue/ChartTargets.h"
 #include "host/glue/Forward.h"
 #include "host/glue/GlueArgs.h"
@@ -23,12 +24,4 @@ const MethodEntry kMethods[] = {
 
 }  // namespace
 
-const ClassTables kDrawObjTables = {
-    tableOf(kMethods),
-    {nullptr, 0},
-    {nullptr, 0},
-    {nullptr, 0},
-    {nullptr, 0},
-    reinterpret_cast<REALproc>(&InitBlockOf<ClassId::DrawObj>),
-    reinterpret_cast<REALproc>(&ReleaseRefsOf<ClassId::DrawObj>),
-};
+const ClassTables kDrawObjTables = rootTables<ClassId::DrawObj>(tableOf(kMethods));

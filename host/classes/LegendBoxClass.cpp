@@ -1,6 +1,6 @@
 // VSLegendBoxXPG: the keys of a chart.
 #include "host/classes/ClassTables.h"
-#include "host/classes/DrawObjClasses.h"
+#include "host/classes/LifetimeTables.h"
 #include "host/glue/ChartTargets.h"
 #include "host/glue/Forward.h"
 #include "host/glue/GlueArgs.h"

@@ -1,6 +1,6 @@
 // VSLineXPG: a free line on a chart.
 #include "host/classes/ClassTables.h"
-#include "host/classes/DrawObjClasses.h"
+#include "host/classes/LifetimeTables.h"
 #include "host/glue/ChartTargets.h"
 #include "host/glue/Forward.h"
 #include "host/glue/GlueArgs.h"

@@ -1,7 +1,9 @@
 // VSMultiChartXPG: a chart made of other charts.  The charts it is given are
 // kept in the block's child array, so that asking for one gives back the same
 // host object and the child lives as long as the multi-chart.
+#include "host/classes/ChartConstructor.h"
 #include "host/classes/ClassTables.h"
+#include "host/classes/LifetimeTables.h"
 #include "host/glue/ChartFactories.h"
 #include "host/glue/ChartParts.h"
 #include "host/glue/ChartTargets.h"
@@ -22,20 +24,6 @@ constexpr auto fwd = forward<MultiChartTarget, Method, Arg...>;
 template <class HostR, class Body>
 HostR call(REALobject self, REALproc glue, Body &&body) {
     return callWrapper<MultiChartTarget, HostR>(self, glue, body);
-}
-
-// New VSMultiChartXPG: a root chart, deleted with the object.  The size is in
-// logical pixels.
-template <class BgColor>
-void construct(REALobject self, RBInteger width, RBInteger height, typename BgColor::Host bgColor,
-               RBInteger edgeColor, RBInteger raisedEffect) {
-    if (getDebugging()) LogMessage("Constructor", static_cast<const void *>(self));
-    ChartBlock *b = MultiChartTarget::block(self);
-    if (b->handle) return;
-    guard<void>([&] {
-        installChart(*b, MC::create(Px::in(width), Px::in(height), BgColor::in(bgColor),
-                                    Color::in(edgeColor), Int::in(raisedEffect)));
-    });
 }
 
 // A chart that the multi-chart holds stays in the child array; the multi-chart
@@ -78,9 +66,10 @@ REALobject getChart(REALobject self, RBInteger index) {
 const MethodEntry kMethods[] = {
     method("Constructor(width as integer = 640, height as integer = 480, "
            "bgColor as integer = &hFFFF0000, edgeColor as integer = &hFF000000, "
-           "raisedEffect as integer = 0)", construct<Color>),
+           "raisedEffect as integer = 0)", constructChart<MultiChartTarget, &MC::create, Color>),
     method("Constructor(width as integer, height as integer, bgColor as color, "
-           "edgeColor as integer = &hFF000000, raisedEffect as integer = 0)", construct<ColorC>),
+           "edgeColor as integer = &hFF000000, raisedEffect as integer = 0)",
+           constructChart<MultiChartTarget, &MC::create, ColorC>),
     method("addChart(x as integer, y as integer, c as VSBaseChartXPG)", addChart),
     method("getChart(i as integer = 0) as VSBaseChartXPG", getChart),
     method("getChartCount() as integer", fwd<&MC::getChartCount>),
@@ -90,8 +79,4 @@ const MethodEntry kMethods[] = {
 
 }  // namespace
 
-const ClassTables kMultiChartTables = {
-    tableOf(kMethods), {nullptr, 0}, {nullptr, 0},
-    {nullptr, 0},      {nullptr, 0}, reinterpret_cast<REALproc>(&PrivateConstructor),
-    nullptr,
-};
+const ClassTables kMultiChartTables = derivedTables(tableOf(kMethods));

@@ -1,6 +1,6 @@
 // VSTextBoxXPG: a box with a text in it: titles, labels, free texts.
 #include "host/classes/ClassTables.h"
-#include "host/classes/DrawObjClasses.h"
+#include "host/classes/LifetimeTables.h"
 #include "host/glue/ChartTargets.h"
 #include "host/glue/Forward.h"
 #include "host/glue/GlueArgs.h"

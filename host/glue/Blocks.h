@@ -90,7 +90,9 @@ struct DrawAreaBlock {
 struct AxisBlock {
     REALobject owner;
     REALobject parent;
-    void *reserved;
+    // The chart of a standing axis, which has no owner: held without a lock,
+    // as one would make a cycle, and cleared with the axis when the chart goes.
+    REALobject chart;
     abc::Axis *axis;
     abc::ColorAxis *colorAxis;
 };

@@ -5,8 +5,11 @@
 #include "host/abc/chart/TextBox.h"
 #include "host/abc/chart/VSLine.h"
 #include "host/abc/chart/VSMLTable.h"
+#include "host/abc/pie/PieChart.h"
+#include "host/abc/xy/XYChart.h"
 #include "host/glue/ClassRegistry.h"
 #include "host/glue/Factories.h"
+#include "host/glue/WrapperSlots.h"
 
 namespace {
 
@@ -17,16 +20,11 @@ struct ChartFamily {
     bool (*install)(ChartBlock &block, abc::BaseChart *chart);
 };
 
-template <class W, W *ChartBlock::*Slot>
-bool installAs(ChartBlock &block, abc::BaseChart *chart) {
-    W *w = dynamic_cast<W *>(chart);
-    if (w) block.*Slot = w;
-    return w != nullptr;
-}
-
 // Tested in this order: a family derived from another comes before it.
 const ChartFamily kFamilies[] = {
-    {"VSMultiChartXPG", &installAs<abc::MultiChart, &ChartBlock::multiChart>},
+    {"VSXYChartXPG", &installAs<&ChartBlock::xyChart, abc::BaseChart>},
+    {"VSPieChartXPG", &installAs<&ChartBlock::pieChart, abc::BaseChart>},
+    {"VSMultiChartXPG", &installAs<&ChartBlock::multiChart, abc::BaseChart>},
 };
 
 const ChartFamily *familyOf(abc::BaseChart *chart, ChartBlock *block) {
@@ -36,15 +34,15 @@ const ChartFamily *familyOf(abc::BaseChart *chart, ChartBlock *block) {
     return nullptr;
 }
 
-REALobject newDrawObjObject(const char *className, abc::DrawObj *obj, REALobject owner,
-                            REALobject parent) {
+}  // namespace
+
+REALobject newDrawObjXPG(const char *className, abc::DrawObj *obj, REALobject owner,
+                         REALobject parent) {
     if (!obj) return nullptr;
     REALobject host = newHostObject(className, ClassId::DrawObj, owner, parent);
     if (host) blockOf<HandleBlock<abc::DrawObj>>(host, ClassId::DrawObj)->handle = obj;
     return host;
 }
-
-}  // namespace
 
 void installChart(ChartBlock &block, abc::BaseChart *chart) {
     block.handle = chart;
@@ -68,19 +66,19 @@ REALobject NewBaseChartXPG(abc::BaseChart *chart, REALobject owner, REALobject p
 }
 
 REALobject NewTextBoxXPG(abc::TextBox *box, REALobject owner, REALobject parent) {
-    return newDrawObjObject("VSTextBoxXPG", box, owner, parent);
+    return newDrawObjXPG("VSTextBoxXPG", box, owner, parent);
 }
 
 REALobject NewLegendBoxXPG(abc::LegendBox *legend, REALobject owner, REALobject parent) {
-    return newDrawObjObject("VSLegendBoxXPG", legend, owner, parent);
+    return newDrawObjXPG("VSLegendBoxXPG", legend, owner, parent);
 }
 
 REALobject NewLineXPG(abc::VSLine *line, REALobject owner, REALobject parent) {
-    return newDrawObjObject("VSLineXPG", line, owner, parent);
+    return newDrawObjXPG("VSLineXPG", line, owner, parent);
 }
 
 REALobject NewMLTableXPG(abc::VSMLTable *table, REALobject owner, REALobject parent) {
-    return newDrawObjObject("VSMLTableXPG", table, owner, parent);
+    return newDrawObjXPG("VSMLTableXPG", table, owner, parent);
 }
 
 REALobject NewChartCanvasXPG(abc::DrawArea *canvas, REALobject owner, REALobject parent) {

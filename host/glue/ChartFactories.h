@@ -25,6 +25,9 @@ const char *chartClassName(abc::BaseChart *chart);
 // A host chart of the wrapper's class.
 REALobject NewBaseChartXPG(abc::BaseChart *chart, REALobject owner, REALobject parent);
 
+// A drawing object of the class (VSTextBoxXPG, VSMarkXPG, ...).
+REALobject newDrawObjXPG(const char *className, abc::DrawObj *obj, REALobject owner,
+                         REALobject parent);
 REALobject NewTextBoxXPG(abc::TextBox *box, REALobject owner, REALobject parent);
 REALobject NewLegendBoxXPG(abc::LegendBox *legend, REALobject owner, REALobject parent);
 REALobject NewLineXPG(abc::VSLine *line, REALobject owner, REALobject parent);

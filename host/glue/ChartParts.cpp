@@ -1,5 +1,7 @@
 #include "host/glue/ChartParts.h"
 
+#include "host/abc/chart/Axis.h"
+
 #include "host/glue/ClassRegistry.h"
 #include "host/glue/Debugging.h"
 #include "host/glue/Factories.h"
@@ -8,24 +10,25 @@
 
 namespace {
 
-// Axis blocks keep their first wrapper behind owner, parent and a reserved slot.
-void *&axisWrapper(REALobject axis, ClassId root) {
-    return blockOf<HandleBlock<void>>(axis, root)->handle;
+// Axis blocks keep their first wrapper behind owner, parent and their chart.
+HandleBlock<void> *axisBlock(REALobject axis, ClassId root) {
+    return blockOf<HandleBlock<void>>(axis, root);
 }
 
 }  // namespace
 
 REALobject cachedAxisObject(REALobject &slot, ClassId root, const char *className, void *wrapper,
-                            REALobject parent) {
+                            REALobject parent, REALobject chart) {
     if (!wrapper) return nullptr;
-    if (slot && axisWrapper(slot, root) == wrapper) {
+    if (slot && axisBlock(slot, root)->handle == wrapper) {
         if (getDebugging()) LogMessage("return cached", static_cast<const void *>(slot));
         lockRef(slot);
         return slot;
     }
     REALobject axis = newHostObject(className, root, nullptr, parent);
     if (!axis) return nullptr;
-    axisWrapper(axis, root) = wrapper;
+    axisBlock(axis, root)->handle = wrapper;
+    axisBlock(axis, root)->reserved = chart;
     // A slot that held another axis lets it go, cleared.
     if (slot) {
         ClearAxis(slot, root);
@@ -34,6 +37,19 @@ REALobject cachedAxisObject(REALobject &slot, ClassId root, const char *classNam
     slot = axis;
     lockRef(axis);
     return axis;
+}
+
+ChartAxisSlot sideSlot(abc::Axis *axis) {
+    switch (axis->getAlignment()) {
+        case 8:
+            return kXAxis2Slot;
+        case 4:
+            return kYAxisSlot;
+        case 6:
+            return kYAxis2Slot;
+        default:
+            return kXAxisSlot;
+    }
 }
 
 void keepChildChart(ChartBlock &block, REALobject child) {

@@ -29,6 +29,12 @@ const char *findIn(const REALmethodDefinition *methods, size_t count, REALproc f
     return nullptr;
 }
 
+const char *findGetter(const REALproperty *properties, size_t count, REALproc function) {
+    for (size_t i = 0; i < count; ++i)
+        if (properties[i].getter == function) return properties[i].name;
+    return nullptr;
+}
+
 }  // namespace
 
 REALclassDefinition &classDefinition(ClassId id) {
@@ -39,6 +45,7 @@ const char *glueName(REALproc function) {
     for (const REALclassDefinition &d : gDefinitions) {
         if (const char *name = findIn(d.methods, d.methodCount, function)) return name;
         if (const char *name = findIn(d.sharedMethods, d.sharedMethodCount, function)) return name;
+        if (const char *name = findGetter(d.properties, d.propertyCount, function)) return name;
     }
     return "?";
 }

@@ -67,5 +67,6 @@ Block *blockOf(REALobject self, ClassId root) {
 }
 
 // The name a registered glue function is logged under: the declaration's name,
-// with a "C" for the overloads that take the host's Color; "?" if none.
+// with a "C" for the overloads that take the host's Color, or the property's
+// name for a getter; "?" if none.
 const char *glueName(REALproc function);

@@ -8,6 +8,7 @@
 #include "host/glue/Debugging.h"
 #include "host/glue/HostExceptions.h"
 #include "host/glue/HostValues.h"
+#include "host/glue/PartFactories.h"
 #include "host/sdk/HostFunctions.h"
 
 // The glue of a plain method, made from the wrapper's method and one argument
@@ -80,7 +81,7 @@ struct WrapperMethod<R (W::*)(P...)> {
 
 // Parts that an object hands out (a chart's titles, legend, canvas) become host
 // objects that hold the object of the call as their owner, so that a part keeps
-// its chart alive.
+// its chart alive; a part of a chart's part holds the chart (Target::partOwner).
 template <class R>
 struct PartResult {
     static constexpr bool kIsPart = false;
@@ -102,6 +103,33 @@ template <>
 struct PartResult<abc::VSMLTable *> : PartOf<abc::VSMLTable, &NewMLTableXPG> {};
 template <>
 struct PartResult<abc::DrawArea *> : PartOf<abc::DrawArea, &NewChartCanvasXPG> {};
+template <>
+struct PartResult<abc::Axis *> : PartOf<abc::Axis, &NewAxisXPG> {};
+template <>
+struct PartResult<abc::PlotArea *> : PartOf<abc::PlotArea, &NewPlotAreaXPG> {};
+template <>
+struct PartResult<abc::Layer *> : PartOf<abc::Layer, &NewLayerXPG> {};
+template <>
+struct PartResult<abc::BarLayer *> : PartOf<abc::BarLayer, &NewBarLayerXPG> {};
+template <>
+struct PartResult<abc::DataSet *> : PartOf<abc::DataSet, &NewDataSetXPG> {};
+template <>
+struct PartResult<abc::Mark *> : PartOf<abc::Mark, &NewMarkXPG> {};
+template <>
+struct PartResult<abc::LineObj *> : PartOf<abc::LineObj, &NewLineObjXPG> {};
+template <>
+struct PartResult<abc::Sector *> : PartOf<abc::Sector, &NewSectorXPG> {};
+
+// The owner of the parts an object hands out: the object, or what its target
+// names.
+template <class Target, class = void>
+struct PartOwner {
+    static REALobject of(REALobject self) { return self; }
+};
+template <class Target>
+struct PartOwner<Target, std::void_t<decltype(&Target::partOwner)>> {
+    static REALobject of(REALobject self) { return Target::partOwner(self); }
+};
 
 // A wrapper method that hands back its own wrapper (calls that chain) returns
 // the host object itself, with a lock for the caller.
@@ -132,7 +160,8 @@ struct Forward {
                 REALLockObject(self);
                 return self;
             } else if constexpr (PartResult<R>::kIsPart) {
-                return PartResult<R>::out((w->*Method)(Arg::in(args)...), self);
+                return PartResult<R>::out((w->*Method)(Arg::in(args)...),
+                                          PartOwner<Target>::of(self));
             } else {
                 return GlueResult<R>::out((w->*Method)(Arg::in(args)...));
             }

@@ -15,6 +15,10 @@ abc::Axis *AxisObj::in(Host v) {
     return v ? blockOf<AxisBlock>(v, ClassId::Axis)->axis : nullptr;
 }
 
+abc::Layer *LayerObj::in(Host v) {
+    return v ? blockOf<LayerBlock>(v, ClassId::Layer)->layer : nullptr;
+}
+
 abc::BaseChart *ChartObj::in(Host v) {
     return v ? blockOf<ChartBlock>(v, ClassId::BaseChart)->handle : nullptr;
 }

@@ -9,6 +9,7 @@ namespace abc {
 class Axis;
 class BaseChart;
 class DrawArea;
+class Layer;
 }  // namespace abc
 
 // How one host argument becomes one engine argument: Host is the C type the
@@ -33,6 +34,17 @@ struct PxAuto {
 struct PxOrUnset {
     using Host = RBInteger;
     static int in(Host v) { return v == 0x7FFFFFFF ? (int)v : scalePixels(v); }
+};
+// A pie's label position: pixels from the rim below 32768 (inside when
+// negative), and 32768 plus the pixels from the pie of the side columns, which
+// stay within the low 15 bits.
+struct LabelPos {
+    using Host = RBInteger;
+    static int in(Host v) {
+        if (v < 32768) return scalePixels(v);
+        int gap = scalePixels(v - 32768);
+        return 32768 + (gap > 32767 ? 32767 : gap);
+    }
 };
 struct Dbl {
     using Host = double;
@@ -107,6 +119,11 @@ struct Canvas {
 struct AxisObj {
     using Host = REALobject;
     static abc::Axis *in(Host v);
+};
+// A VSLayerXPG, or null.
+struct LayerObj {
+    using Host = REALobject;
+    static abc::Layer *in(Host v);
 };
 // A VSBaseChartXPG, or null.
 struct ChartObj {

@@ -1,5 +1,6 @@
 #include "host/glue/Lifetime.h"
 
+#include <cstdio>
 #include <cstring>
 
 #include "host/abc/AutoDeleteContainer.h"
@@ -7,6 +8,7 @@
 #include "host/abc/chart/MultiChart.h"
 #include "host/glue/ClassRegistry.h"
 #include "host/glue/Debugging.h"
+#include "host/glue/HostValues.h"
 #include "host/sdk/HostFunctions.h"
 
 void lockRef(REALobject obj) {
@@ -42,6 +44,15 @@ void keepHostValue(REALobject &dictionary, REALstring id, REALobject value) {
     unlockRef(key);
 }
 
+void keepForChart(REALobject chart, const void *part, const char *what, REALobject value) {
+    if (!chart) return;
+    char id[64];
+    snprintf(id, sizeof id, "%s@%p", what, part);
+    REALstring key = newHostString(id);
+    keepHostValue(blockOf<ChartBlock>(chart, ClassId::BaseChart)->resources, key, value);
+    REALUnlockString(key);
+}
+
 void InitBlock(REALobject self, ClassId root) {
     if (self) memset(blockOf<char>(self, root), 0, classDefinition(root).dataSize);
 }
@@ -50,9 +61,9 @@ void PrivateConstructor(REALobject) {}
 
 void ClearAxis(REALobject axis, ClassId root) {
     if (!axis) return;
-    // Axis blocks: owner, parent, a reserved slot, then the wrappers.
+    // Axis blocks: owner, parent, the chart without a lock, then the wrappers.
     auto *block = blockOf<HandleBlock<void>>(axis, root);
-    size_t wrappers = offsetof(HandleBlock<void>, handle);
+    size_t wrappers = offsetof(HandleBlock<void>, reserved);
     size_t size = classDefinition(root).dataSize;
     if (size > wrappers) memset(reinterpret_cast<char *>(block) + wrappers, 0, size - wrappers);
     releaseRefs(block->owner, block->parent);
@@ -116,6 +127,7 @@ void DataSetDestructor(REALobject self) {
 
 void AxisDestructor(REALobject self) {
     auto *b = blockOf<AxisBlock>(self, ClassId::Axis);
+    b->chart = nullptr;
     b->axis = nullptr;
     b->colorAxis = nullptr;
     releaseRefs(b->owner, b->parent);

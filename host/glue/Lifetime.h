@@ -17,6 +17,9 @@ void releaseRefs(REALobject &owner, REALobject &parent);
 // it, under the same id, in a Dictionary made on first use, so that it lives as
 // long as the object that was given it.
 void keepHostValue(REALobject &dictionary, REALstring id, REALobject value);
+// A host value that a part of a chart lent the engine (a data set's symbol
+// canvas) kept in the chart's Resources under the part's own id.
+void keepForChart(REALobject chart, const void *part, const char *what, REALobject value);
 
 // Zeroes the block of a new object: the host may not have.
 void InitBlock(REALobject self, ClassId root);
@@ -25,8 +28,8 @@ void InitBlock(REALobject self, ClassId root);
 // raises the not-initialized exception on first use.
 void PrivateConstructor(REALobject self);
 
-// An axis object outliving its chart: its wrappers are zeroed and its
-// references let go, so that its next use raises instead of touching freed
+// An axis object outliving its chart: its wrappers and its chart are zeroed
+// and its references let go, so that its next use raises instead of touching freed
 // memory.  root is the axis's class (Axis or AngularAxis).
 void ClearAxis(REALobject axis, ClassId root);
 

@@ -13,9 +13,18 @@
 #include "api/chart/CDrawObj.h"
 #include "api/chart/CLegendBox.h"
 #include "api/chart/CLine.h"
+#include "api/chart/CLineObj.h"
+#include "api/chart/CMark.h"
 #include "api/chart/CMultiChart.h"
 #include "api/chart/CTextBox.h"
 #include "api/chart/CVSMLTable.h"
+#include "api/pie/CPieChart.h"
+#include "api/pie/CSector.h"
+#include "api/xy/CBarLayer.h"
+#include "api/xy/CDataSet.h"
+#include "api/xy/CLayer.h"
+#include "api/xy/CPlotArea.h"
+#include "api/xy/CXYChart.h"
 #include "draw/canvas/DrawArea.h"
 #include "foundation/Constants.h"
 
@@ -192,4 +201,82 @@ TEST(CApi, ChartHandlesConvertAlongTheirBases) {
     EXPECT_EQ(std::string("\x89PNG", 4), std::string(bytes, 4));
     CBaseChart_destroy(c);
     CBaseChart_destroy(CMultiChart_toBaseChart(inner));
+}
+
+// The flat functions of XY and pie charts read a null handle as 0 too.
+TEST(CApi, NullPlotHandlesReadAsZero) {
+    EXPECT_EQ(nullptr, CXYChart_toBaseChart(nullptr));
+    EXPECT_EQ(nullptr, CXYChart_fromBaseChart(nullptr));
+    EXPECT_EQ(nullptr, CXYChart_xAxis(nullptr));
+    EXPECT_EQ(nullptr, CXYChart_addBarLayer(nullptr, nullptr, 3, -1, nullptr, 0));
+    EXPECT_EQ(0, CXYChart_getLayerCount(nullptr));
+    EXPECT_EQ(0, CPlotArea_getWidth(nullptr));
+    CPlotArea_moveGridBefore(nullptr, nullptr);
+    EXPECT_EQ(nullptr, CLayer_addDataSet(nullptr, nullptr, 0, -1, "x"));
+    EXPECT_EQ(-1, CLayer_getXIndexOf(nullptr, 1, 0));
+    EXPECT_EQ(nullptr, CLayer_getHTMLImageMap(nullptr, "u", nullptr, nullptr, 0, 0));
+    EXPECT_EQ(0, CDataSet_getValue(nullptr, 0));
+    EXPECT_EQ(nullptr, CDataSet_getUseYAxis(nullptr));
+    EXPECT_EQ(nullptr, CBarLayer_toLayer(nullptr));
+    EXPECT_EQ(nullptr, CBarLayer_fromLayer(nullptr));
+    CBarLayer_setRoundedCorners(nullptr, 1, 2, 3, 4);
+    EXPECT_EQ(nullptr, CAxis_setTitle(nullptr, "t", "", 8, 0));
+    EXPECT_EQ(nullptr, CAxis_addMark(nullptr, 1, 0, "", "", 8));
+    EXPECT_EQ(0, CAxis_getAlignment(nullptr));
+    EXPECT_EQ(nullptr, CMark_toTextBox(nullptr));
+    EXPECT_EQ(nullptr, CMark_getLine(nullptr));
+    const double *points = &kNoValue;
+    int n = 9;
+    CLineObj_getPoints(nullptr, &points, &n);
+    EXPECT_EQ(nullptr, points);
+    EXPECT_EQ(0, n);
+    EXPECT_EQ(nullptr, CPieChart_fromBaseChart(nullptr));
+    EXPECT_EQ(nullptr, CPieChart_sector(nullptr, 0));
+    EXPECT_EQ(nullptr, CSector_getImageCoor(nullptr, 0, 0));
+}
+
+// XY charts, pies and bar layers convert along their bases and are found behind
+// a base handle only when they are of that kind; the flat interface plugs the
+// layer kinds in, so that bar layers can be made.
+TEST(CApi, PlotHandlesConvertAlongTheirBases) {
+    CXYChart *xy = CXYChart_create(200, 120, 0xffffff, -16777216, 0);
+    CBaseChart *base = CXYChart_toBaseChart(xy);
+    EXPECT_EQ(xy, CXYChart_fromBaseChart(base));
+    EXPECT_EQ(nullptr, CPieChart_fromBaseChart(base));
+    EXPECT_EQ(200, CBaseChart_getWidth(base));
+    const double data[] = {3, 1, 2};
+    CBarLayer *bars = CXYChart_addBarLayer(xy, data, 3, 0x4a90d9, nullptr, 0);
+    ASSERT_NE(nullptr, bars);
+    CLayer *layer = CBarLayer_toLayer(bars);
+    EXPECT_EQ(layer, CXYChart_getLayer(xy, 0));
+    EXPECT_EQ(bars, CBarLayer_fromLayer(layer));
+    EXPECT_EQ(1, CLayer_getDataSetCount(layer));
+    CDataSet *set = CLayer_getDataSet(layer, 0);
+    EXPECT_EQ(2, CDataSet_getValue(set, 2));
+    EXPECT_STREQ("", CDataSet_getDataName(set));
+    CAxis *y = CXYChart_yAxis(xy);
+    EXPECT_EQ(kLeft, CAxis_getAlignment(y));
+    CMark *mark = CAxis_addMark(y, 2, 0xff0000, "two", nullptr, 8);
+    CDrawObj_setZOrder(CBox_toDrawObj(CTextBox_toBox(CMark_toTextBox(mark))), 7);
+    CPlotArea *plot =
+        CXYChart_setPlotArea(xy, 30, 10, 150, 90, 0xffffff, -1, -1, 0xc0c0c0, -16777216);
+    EXPECT_EQ(plot, CXYChart_getPlotArea(xy));
+    EXPECT_EQ(180, CPlotArea_getRightX(plot));
+    const char *bytes = nullptr;
+    int len = 0;
+    EXPECT_TRUE(CBaseChart_makeChart3(base, kPNG, &bytes, &len));
+    const double *points = nullptr;
+    CLineObj_getPoints(CMark_getLine(mark), &points, &len);
+    ASSERT_EQ(4, len);
+    EXPECT_EQ(30, points[0]);
+    EXPECT_EQ(180, points[2]);
+    CBaseChart_destroy(base);
+
+    CPieChart *pie = CPieChart_create(100, 100, 0xffffff, -16777216, 0);
+    EXPECT_EQ(pie, CPieChart_fromBaseChart(CPieChart_toBaseChart(pie)));
+    EXPECT_EQ(nullptr, CXYChart_fromBaseChart(CPieChart_toBaseChart(pie)));
+    CPieChart_setData(pie, data, 3, nullptr, 0);
+    EXPECT_NE(nullptr, CPieChart_sector(pie, 2));
+    EXPECT_EQ(nullptr, CPieChart_sector(pie, 3));
+    CBaseChart_destroy(CPieChart_toBaseChart(pie));
 }

@@ -5,6 +5,7 @@
 #include "families/pie/shape/PieView.h"
 #include "foundation/Constants.h"
 #include "tests/families/PieTestSupport.h"
+#include "text/box/TextBox.h"
 
 namespace {
 
@@ -128,6 +129,27 @@ TEST(PieGeometry, SharesCountSizesAndZerosShareEqually) {
     EXPECT_EQ(listingLines(empty->makeChart()).size(), 1u);
     EXPECT_EQ(std::string(empty->getHTMLImageMap("p.html", "", "", 0, 0)), "");
     EXPECT_EQ(empty->sector(0), nullptr);
+}
+
+// A sector held beyond a shorter data set stays a live object, out of the pie,
+// and comes back with its index and its settings when the data grows again.
+TEST(PieGeometry, SectorsBeyondTheDataWaitForTheirIndex) {
+    OwnedPie pie(300, 300);
+    pie.setData({1, 2, 3, 4});
+    SectorImpl *third = pie.sector(2), *fourth = pie.sector(3);
+    third->setColor(0x123456, -1, -1);
+    pie.setData({5});
+    EXPECT_EQ(nullptr, pie->sector(1));
+    fourth->setExplode(4);
+    fourth->setLabelStyle("", 9, 0)->setText("kept");
+    pie.setData({5, 6, 7});
+    EXPECT_EQ(third, pie.sector(2));
+    EXPECT_EQ(2, third->getIndex());
+    EXPECT_EQ(0x123456, third->getColor());
+    EXPECT_EQ(7, third->getValue());
+    EXPECT_EQ(nullptr, pie->sector(3));
+    pie->setPieSize(150, 150, 80);
+    EXPECT_NE(listingLines(pie->makeChart()).size(), 1u);
 }
 
 TEST(PieGeometry, TiltAndDepthShapeTheRadii) {

@@ -3,6 +3,8 @@
 #include "host/abc/chart/LegendBox.h"
 #include "host/abc/chart/MultiChart.h"
 #include "host/abc/chart/TextBox.h"
+#include "host/abc/pie/PieChart.h"
+#include "host/abc/xy/XYChart.h"
 
 // Wrappers of one chart share a count: the chart lives until the last goes (a
 // use after that would show under the address sanitizer).
@@ -63,4 +65,66 @@ TEST(AbcChart, MultiChartFindsTheWrappersItWasGiven) {
     delete multi;
     delete given;
     CBaseChart_destroy(CMultiChart_toBaseChart(placed));
+}
+
+// An XY chart keeps one wrapper per axis, plot area, layer and data set, a layer's
+// of its kind; label boxes asked for again keep their wrapper.
+TEST(AbcChart, XYPartsHaveOneWrapperEach) {
+    abc::XYChart *c = abc::XYChart::create(200, 100, 0xffffff, -16777216, 0);
+    ASSERT_NE(nullptr, c);
+    abc::Axis *x = c->xAxis();
+    EXPECT_EQ(x, c->xAxis());
+    EXPECT_NE(x, c->yAxis());
+    c->swapXY(true);
+    EXPECT_EQ(x, c->yAxis());
+    EXPECT_EQ(nullptr, c->addAxis(5, 10));
+    EXPECT_EQ(c->getPlotArea(), c->setPlotArea(10, 10, 150, 70, -1, -1, -1, -1, -1));
+    const double data[] = {1, 2, 3};
+    abc::BarLayer *bars = c->addBarLayer({3, data}, -1, "bars", 0);
+    ASSERT_NE(nullptr, bars);
+    EXPECT_EQ(bars, c->getLayer(0));
+    EXPECT_EQ(bars, c->getLayerByZ(0));
+    EXPECT_EQ(nullptr, c->getLayer(1));
+    abc::DataSet *set = bars->getDataSet(0);
+    ASSERT_NE(nullptr, set);
+    EXPECT_EQ(set, bars->getDataSetByZ(0));
+    EXPECT_EQ(set, c->dataSetOf(set->getHandle()));
+    abc::DataSet *other = bars->addDataSet({3, data}, 0xff0000, "other");
+    EXPECT_NE(set, other);
+    EXPECT_EQ(nullptr, other->getUseYAxis());
+    other->setUseYAxis(c->xAxis2());
+    EXPECT_EQ(c->xAxis2(), other->getUseYAxis());
+    abc::TextBox *style = bars->setDataLabelStyle("", 8, 0, 0);
+    EXPECT_EQ(style, bars->setDataLabelStyle("bold", 9, 0, 0));
+    abc::TextBox *custom = bars->addCustomDataLabel(0, 1, "a", "", 8, 0, 0);
+    EXPECT_EQ(custom, bars->addCustomDataLabel(0, 1, "b", "", 8, 0, 0));
+    EXPECT_NE(style, custom);
+    EXPECT_EQ(x->setTitle("t", "", 8, 0), x->setTitle("u", "", 8, 0));
+    abc::Mark *mark = x->addMark(2, 0, "m", "", 8);
+    EXPECT_NE(mark, x->addMark(2, 0, "m", "", 8));
+    EXPECT_EQ(mark->getLine(), mark->getLine());
+    EXPECT_NE(nullptr, c->makeChart());
+    EXPECT_GE(mark->getLine()->getPoints().len, 4);
+    delete c;
+}
+
+// The sectors of a pie keep their wrapper, also beyond a shorter data set.
+TEST(AbcChart, SectorsHaveOneWrapperEach) {
+    abc::PieChart *c = abc::PieChart::create(200, 100, 0xffffff, -16777216, 0);
+    ASSERT_NE(nullptr, c);
+    const double data[] = {1, 2};
+    const char *const labels[] = {"a", "b"};
+    c->setData({2, data}, {2, labels});
+    abc::Sector *second = c->sector(1);
+    ASSERT_NE(nullptr, second);
+    EXPECT_EQ(second, c->sector(1));
+    EXPECT_EQ(nullptr, c->sector(2));
+    abc::TextBox *box = second->setLabelStyle("", 9, 0);
+    EXPECT_EQ(box, second->setLabelStyle("", 10, 0));
+    c->setData({1, data}, {1, labels});
+    second->setColor(0xff0000, -1, -1);
+    box->setText("gone");
+    c->setData({2, data}, {2, labels});
+    EXPECT_EQ(second, c->sector(1));
+    delete c;
 }

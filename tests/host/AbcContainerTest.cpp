@@ -68,3 +68,34 @@ TEST(AbcContainers, OwnersDeleteInIndexOrder) {
     }
     EXPECT_EQ((std::vector<int>{3, 1}), deleted);
 }
+
+// A maker gives the wrapper of a new handle; a known handle keeps its wrapper.
+// keepOnce finds a kept wrapper by its handle among wrappers of other kinds.
+TEST(AbcContainers, WrappersMadeOnceByMakerOrKind) {
+    int a = 1, b = 2;
+    deleted.clear();
+    {
+        abc::UniqueObjContainer<Tracked> unique;
+        int made = 0;
+        auto maker = [&made](int *h) {
+            ++made;
+            return new Tracked(h);
+        };
+        Tracked *first = unique.get(&a, maker);
+        EXPECT_EQ(first, unique.get(&a, maker));
+        EXPECT_EQ(first, unique.get(&a));
+        EXPECT_EQ(first, unique.find(&a));
+        EXPECT_EQ(nullptr, unique.find(&b));
+        EXPECT_EQ(nullptr, unique.get(static_cast<int *>(nullptr), maker));
+        EXPECT_EQ(1, made);
+
+        abc::GarbageContainer garbage;
+        garbage.addGarbage(new abc::VSObject());
+        Tracked *kept = garbage.keepOnce(&b, &Tracked::getHandle);
+        EXPECT_EQ(kept, garbage.keepOnce(&b, &Tracked::getHandle));
+        EXPECT_NE(kept, garbage.keepOnce(&a, &Tracked::getHandle));
+        EXPECT_EQ(nullptr, garbage.keepOnce(static_cast<int *>(nullptr), &Tracked::getHandle));
+        EXPECT_EQ(3, garbage.garbageCount());
+    }
+    EXPECT_EQ((std::vector<int>{2, 1, 1}), deleted);
+}

@@ -113,8 +113,10 @@ TEST_F(ChartPartsTest, CachedAxesOutliveTheirChartEmptied) {
     ChartBlock *c = block<ChartBlock>(chart, ClassId::BaseChart);
     replaceRef(c->parent, raw(parent));
     REALobject &slot = c->axes[kXAxisSlot];
-    Value a1 = adopt(cachedAxisObject(slot, ClassId::Axis, "VSAxisXPG", &xAxisWrapper, c->parent));
-    Value a2 = adopt(cachedAxisObject(slot, ClassId::Axis, "VSAxisXPG", &xAxisWrapper, c->parent));
+    Value a1 = adopt(
+        cachedAxisObject(slot, ClassId::Axis, "VSAxisXPG", &xAxisWrapper, c->parent, raw(chart)));
+    Value a2 = adopt(
+        cachedAxisObject(slot, ClassId::Axis, "VSAxisXPG", &xAxisWrapper, c->parent, raw(chart)));
     EXPECT_EQ(a1.ref.get(), a2.ref.get());
     EXPECT_EQ("VSAxisXPG", host.className(a1));
     EXPECT_EQ(3, host.refCount(a1));
@@ -124,8 +126,8 @@ TEST_F(ChartPartsTest, CachedAxesOutliveTheirChartEmptied) {
     EXPECT_EQ(3, host.refCount(parent));
 
     // Another wrapper in the slot replaces the object and empties the old one.
-    Value a3 =
-        adopt(cachedAxisObject(slot, ClassId::Axis, "VSAxisXPG", &otherAxisWrapper, c->parent));
+    Value a3 = adopt(cachedAxisObject(slot, ClassId::Axis, "VSAxisXPG", &otherAxisWrapper,
+                                      c->parent, raw(chart)));
     EXPECT_NE(a1.ref.get(), a3.ref.get());
     EXPECT_EQ(nullptr, axis->axis);
     EXPECT_EQ(2, host.refCount(a1));
@@ -141,8 +143,8 @@ TEST_F(ChartPartsTest, CachedAxesOutliveTheirChartEmptied) {
 TEST_F(ChartPartsTest, LayersEmptyTheirAxisToo) {
     Value layer = make("VSLayerXPG");
     LayerBlock *l = block<LayerBlock>(layer, ClassId::Layer);
-    Value axis =
-        adopt(cachedAxisObject(l->axis, ClassId::Axis, "VSAxisXPG", &xAxisWrapper, nullptr));
+    Value axis = adopt(
+        cachedAxisObject(l->axis, ClassId::Axis, "VSAxisXPG", &xAxisWrapper, nullptr, raw(layer)));
     layer = Value();
     EXPECT_EQ(nullptr, block<AxisBlock>(axis, ClassId::Axis)->axis);
     EXPECT_EQ(1, host.refCount(axis));

@@ -4,11 +4,13 @@
 #include "host/abc/GarbageContainer.h"
 #include "host/abc/VSObject.h"
 #include "host/abc/Views.h"
+#include "host/abc/chart/Mark.h"
 
 namespace abc {
 
-// The scale of a chart axis.  The engine axis belongs to its chart; the wrapper
-// to the chart wrapper, which hands out one wrapper per axis.
+// The scale and the look of a chart axis.  The engine axis belongs to its
+// chart; the wrapper to the chart wrapper, which hands out one wrapper per
+// axis.  The wrappers of its title, label style and marks belong to it.
 class Axis : public VSObject, public GarbageContainer {
 public:
     explicit Axis(CAxis *handle) : handle(handle) {}
@@ -95,6 +97,49 @@ public:
     const char *getFormattedLabel(double value, const char *format) {
         return CAxis_getFormattedLabel(handle, value, format);
     }
+
+    void setColors(int axisColor, int labelColor, int titleColor, int tickColor) {
+        CAxis_setColors(handle, axisColor, labelColor, titleColor, tickColor);
+    }
+    TextBox *setTitle(const char *text, const char *font, double fontSize, int fontColor) {
+        return keepOnce(CAxis_setTitle(handle, text, font, fontSize, fontColor),
+                        &TextBox::getTextBoxHandle);
+    }
+    void setTitlePos(int alignment, int titleGap) {
+        CAxis_setTitlePos(handle, alignment, titleGap);
+    }
+    TextBox *setLabelStyle(const char *font, double fontSize, int fontColor, double fontAngle) {
+        return keepOnce(CAxis_setLabelStyle(handle, font, fontSize, fontColor, fontAngle),
+                        &TextBox::getTextBoxHandle);
+    }
+    void setLabelGap(int gap) { CAxis_setLabelGap(handle, gap); }
+    void setLabelAlignment(int alignment, int minLabelSpace) {
+        CAxis_setLabelAlignment(handle, alignment, minLabelSpace);
+    }
+    void setTickLength(int majorTickLength) { CAxis_setTickLength(handle, majorTickLength); }
+    void setTickLength2(int majorTickLength, int minorTickLength) {
+        CAxis_setTickLength2(handle, majorTickLength, minorTickLength);
+    }
+    void setTickColor(int majorTickColor, int minorTickColor) {
+        CAxis_setTickColor(handle, majorTickColor, minorTickColor);
+    }
+    void setTickWidth(int majorTickWidth, int minorTickWidth) {
+        CAxis_setTickWidth(handle, majorTickWidth, minorTickWidth);
+    }
+    void setWidth(int width) { CAxis_setWidth(handle, width); }
+    void setOffset(int x, int y) { CAxis_setOffset(handle, x, y); }
+    void setTickOffset(double offset) { CAxis_setTickOffset(handle, offset); }
+    void setLabelOffset(double offset) { CAxis_setLabelOffset(handle, offset); }
+    // Each call makes a mark of its own.
+    Mark *addMark(double value, int lineColor, const char *text, const char *font,
+                  double fontSize) {
+        CMark *m = CAxis_addMark(handle, value, lineColor, text, font, fontSize);
+        return m ? addGarbage(new Mark(m)) : nullptr;
+    }
+    void addZone(double startValue, double endValue, int color) {
+        CAxis_addZone(handle, startValue, endValue, color);
+    }
+    int getAlignment() { return CAxis_getAlignment(handle); }
 
 private:
     CAxis *handle;

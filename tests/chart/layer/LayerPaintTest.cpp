@@ -89,6 +89,11 @@ TEST(LayerPaint, LabelsFillTheirTemplatesAndChooseTheirStyle) {
     EXPECT_EQ(labelsMade.getLabel(0)->getText(), "[Beta]");
     EXPECT_EQ(labelsMade.getLabel(1)->getText(), "custom 10");
     EXPECT_EQ(labelsMade.getLabel(1)->getFontColor(), 0x00FF00);
+    // The same place asked again restyles the box that was handed out.
+    TextBox *custom = layer->addCustomDataLabel(0, 1, "one", "", 9, 0x00FF00, 0);
+    EXPECT_EQ(custom, layer->addCustomDataLabel(0, 1, "two {value}", "", 9, 0x0000FF, 0));
+    EXPECT_NE(custom, layer->addCustomDataLabel(1, 1, "other", "", 9, 0, 0));
+    custom->setFontColor(0x0000FF);
     // Transparent text makes no label.
     layer->getDataSet(1)->setDataLabelStyle("", 8, kTransparent, 0);
     labelsMade.make(spots);
