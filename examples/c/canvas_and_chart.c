@@ -21,8 +21,8 @@ enum {
     kPaper = 0xf4f6fa,
     kNoColor = (int)0xff000000 /* transparent: no edge, no fill */
 };
-/* Alignments, as the chart constants number them. */
-enum { kBottomCenter = 2, kCenter = 5 };
+/* An alignment, as the chart constants number it. */
+enum { kCenter = 5 };
 
 /* Free drawing: shapes, a line and a text on a canvas of its own. */
 static int drawCanvas(const char *path) {
@@ -47,31 +47,23 @@ static int drawCanvas(const char *path) {
     return ok;
 }
 
-/* A chart: a title, a legend, bars drawn on the chart's own canvas beneath
-   it, value labels and a base line. */
+/* An XY chart: a title, a bar per region in its own colour with its value
+   above it, region names on the x axis and a legend. */
 static int drawChart(const char *path) {
     static const char *const names[] = {"North", "South", "East"};
-    static const int values[] = {120, 75, 160};
+    static const double values[] = {120, 75, 160};
     static const int colors[] = {kBlue, kRed, kGreen};
-    CMultiChart *multi = CMultiChart_create(480, 300, kPaper, kInk, 0);
-    CBaseChart *chart = CMultiChart_toBaseChart(multi);
-    CDrawArea *canvas = CBaseChart_getDrawArea(chart);
-    CLegendBox *legend;
-    char label[16];
-    int i, ok;
+    CXYChart *xy = CXYChart_create(480, 300, kPaper, kInk, 0);
+    CBaseChart *chart = CXYChart_toBaseChart(xy);
+    CBarLayer *bars;
+    int ok;
 
     CBaseChart_addTitle(chart, "Sales by region", "arialbd.ttf", 14, kInk, kNoColor, kNoColor);
-    legend = CBaseChart_addLegend(chart, 350, 60, true, "arial.ttf", 10);
-    for (i = 0; i < 3; ++i) {
-        int left = 60 + 90 * i;
-        int top = 250 - values[i];
-        CLegendBox_addKey(legend, names[i], colors[i], -1, NULL);
-        CDrawArea_rect(canvas, left, top, left + 60, 250, kInk, colors[i], 0);
-        snprintf(label, sizeof label, "%d", values[i]);
-        CBaseChart_addText(chart, left + 30, top - 4, label, "arial.ttf", 10, kInk, kBottomCenter,
-                           0, false);
-    }
-    CBaseChart_addLine(chart, 40, 250, 330, 250, kInk, 2);
+    CXYChart_setPlotArea(xy, 50, 40, 280, 220, kWhite, -1, kNoColor, 0xdddddd, kNoColor);
+    CBaseChart_addLegend(chart, 350, 60, true, "arial.ttf", 10);
+    bars = CXYChart_addBarLayer3(xy, values, 3, colors, 3, names, 3, 0);
+    CLayer_setAggregateLabelStyle(CBarLayer_toLayer(bars), "arial.ttf", 10, kInk, 0);
+    CAxis_setLabels(CXYChart_xAxis(xy), names, 3);
 
     ok = CBaseChart_makeChart(chart, path);
     CBaseChart_destroy(chart);
