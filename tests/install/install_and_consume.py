@@ -209,12 +209,14 @@ class InstallAndConsume(unittest.TestCase):
         rgb = image.convert("RGB")
         self.assertEqual(PAPER, rgb.getpixel((20, 280)))
         self.assertEqual(INK, rgb.getpixel((0, 150)))
-        for x, color, value in ((90, BLUE, 120), (180, RED, 75), (270, GREEN, 160)):
-            self.assertEqual(color, rgb.getpixel((x, 245)))
-            self.assertEqual(color, rgb.getpixel((x, 252 - value)))
-            self.assertEqual(PAPER, rgb.getpixel((x, 246 - value)))
+        # Bars on a 0 to 180 scale over the plot's 220 pixels, white plot above.
+        for x, color, value in ((97, BLUE, 120), (190, RED, 75), (283, GREEN, 160)):
+            top = round(260 - value * 220 / 180)
+            self.assertEqual(color, rgb.getpixel((x, 255)))
+            self.assertEqual(color, rgb.getpixel((x, top + 3)))
+            self.assertEqual(WHITE, rgb.getpixel((x + 25, top - 3)))
             # Its value above it.
-            self.assertGreater(ink_pixels(rgb, (x - 20, 232 - value, x + 20, 248 - value)), 10)
+            self.assertGreater(ink_pixels(rgb, (x - 20, top - 22, x + 20, top - 3)), 10)
         self.assertGreater(ink_pixels(rgb, (140, 2, 340, 30)), 100)
         legend = set(rgb.crop((350, 60, 480, 140)).getdata())
         self.assertTrue({BLUE, RED, GREEN} <= legend)
