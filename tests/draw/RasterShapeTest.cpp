@@ -159,6 +159,32 @@ TEST(RasterShape, DirectAndActiveEdgeFillersAgree) {
     }
 }
 
+// A ring sector whose arc ends a hair below a row, where the joining line's
+// end snaps onto the row: both edges must agree, or the row fills across the gap.
+TEST(RasterShape, ArcsAndLinesAgreeOnASnappedVertex) {
+    const double ex = 206.69872981077793384, ey = 155.00000000000022737;
+    const double ix = 228.34936490538896692, iy = 167.50000000000011369;
+    const double jx = 267.67766952966366034, jy = 162.32233047033628281;
+    const double kx = 285.35533905932732068, ky = 144.64466094067259405;
+    for (bool direct : {true, false}) {
+        AAShape s(nullptr);
+        s.addArc(kTransparent, 250, 180, 50, 50, kx, ky, 250, 230);
+        s.addArc(kTransparent, 250, 180, 50, 50, 250, 230, ex, ey);
+        s.addLine(kTransparent, false, ex, ey, ix, iy);
+        s.addArc(kTransparent, 250, 180, 25, 25, ix, iy, 250, 205);
+        s.addArc(kTransparent, 250, 180, 25, 25, 250, 205, jx, jy);
+        s.addLine(kTransparent, false, jx, jy, kx, ky);
+        auto r = makeRaster(320, 240, kWhite);
+        if (direct)
+            s.fillDirect(r.get(), kRed, false);
+        else
+            s.fillGeneral(r.get(), kRed, false);
+        for (int x = 212; x <= 270; ++x) ASSERT_EQ(pixelOf(*r, x, 155), kWhite) << x;
+        EXPECT_EQ(pixelOf(*r, 290, 155), (unsigned)kRed);
+        EXPECT_EQ(pixelOf(*r, 210, 160), (unsigned)kRed);
+    }
+}
+
 TEST(RasterShape, TwentyOneEdgesMatchTwenty) {
     // The same 20-gon, once with one side cut in two: the filler changes, not the pixels.
     std::vector<double> x, y;

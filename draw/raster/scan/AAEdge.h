@@ -24,6 +24,11 @@ public:
     virtual void drawOutline(ShapeTarget *target) const = 0;
     int getColor() const { return color; }
 
+    // A coordinate within 0.001 of a whole number becomes that number.  Edges
+    // meeting at a vertex must agree on its row, so every kind of edge that
+    // snaps its ends uses this.
+    static double snap(double v);
+
 protected:
     AAEdge(int color) : color(color), yMin(0), yMax(0) {}
     int color;

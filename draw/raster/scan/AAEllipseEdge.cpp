@@ -10,6 +10,8 @@
 AAEllipseEdge::AAEllipseEdge(int color, double cx, double cy, double rx, double ry, double x1,
                              double y1, double x2, double y2, bool reverse)
     : AAEdge(color), cx(cx), cy(cy), rx(std::fabs(rx)), ry(std::fabs(ry)) {
+    // Snapped like the ends of the lines that join the arc.
+    x1 = snap(x1), y1 = snap(y1), x2 = snap(x2), y2 = snap(y2);
     rx2 = this->rx * this->rx;
     ratio = this->ry == 0 ? 1e100 : rx2 / (this->ry * this->ry);
     ratio2 = ratio * ratio;

@@ -5,11 +5,6 @@
 
 #include "draw/raster/scan/ShapeTarget.h"
 
-double AALineEdge::snap(double v) {
-    double r = std::floor(v + 0.5);
-    return std::fabs(v - r) <= 0.001 ? r : v;
-}
-
 AALineEdge::AALineEdge(int color, double ax1, double ay1, double ax2, double ay2, bool exact)
     : AAEdge(color), x1(ax1), y1(ay1), x2(ax2), y2(ay2), exact(exact) {
     if (!exact) {

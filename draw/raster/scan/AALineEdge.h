@@ -12,8 +12,6 @@ public:
     double getFactor() const { return factor; }
     double getSlope() const { return slope; }
 
-    static double snap(double v);
-
 private:
     double xAt(double y) const;
 
