@@ -102,6 +102,7 @@ static bool wrappedLines(const std::string &path) {
     areas->setXData({12, months});
     areas->addDataSet({12, base}, 0xb7d3ee, "Returning");
     areas->addDataSet({12, extra}, 0xd6e8c2, "New");
+    areas->setBorderColor(kSameAsMain, 0);
 
     abc::LineLayer *lines = c->addLineLayer2(0, 0);
     lines->setXData({12, months});
