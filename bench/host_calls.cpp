@@ -3,14 +3,17 @@
 #include <vector>
 
 #include "chart/base/MultiChart.h"
+#include "chart/xy/XYChart.h"
 #include "draw/canvas/DrawArea.h"
 #include "host/classes/PluginEntry.h"
 #include "host/glue/HostValues.h"
+#include "layers/LayerKinds.h"
 #include "tests/host/simhost/SimHost.h"
 
 // What a host call costs beyond the engine: the glue of the loaded plug-in
-// against the engine called directly, and the copy of a host array with the
-// element function fetched once against item by item.
+// against the engine called directly, a line chart of many points made both
+// ways, and the copy of a host array with the element function fetched once
+// against item by item.
 
 namespace {
 
@@ -100,6 +103,45 @@ void BM_ChartTextsOnTheEngine(benchmark::State &state) {
     state.SetItemsProcessed(state.iterations() * kTexts);
 }
 BENCHMARK(BM_ChartTextsOnTheEngine);
+
+// A line of many points over a 500-pixel plot, laid out and drawn: through the
+// plug-in the host array is copied once more, and the chart's parts are host
+// objects.
+const int kLinePoints = 200000;
+
+std::vector<double> linePoints() {
+    std::vector<double> v(kLinePoints);
+    for (int i = 0; i < kLinePoints; ++i) v[i] = (i * 7919) % 1000 + i * 0.01;
+    return v;
+}
+
+void BM_LineChartThroughThePlugin(benchmark::State &state) {
+    simhost::SimHost host(VISTREL_PLUGIN_PATH);
+    simhost::Value data = host.doubles(linePoints());
+    for (auto _ : state) {
+        simhost::Value c = host.create("VSXYChartXPG", {simhost::I(600), simhost::I(300)}).value;
+        host.call(c, "setPlotArea",
+                  {simhost::I(50), simhost::I(20), simhost::I(500), simhost::I(250)});
+        host.call(c, "addLineLayer", {data});
+        host.call(c, "makeChart");
+    }
+    state.SetItemsProcessed(state.iterations() * kLinePoints);
+}
+BENCHMARK(BM_LineChartThroughThePlugin)->Unit(benchmark::kMillisecond);
+
+void BM_LineChartOnTheEngine(benchmark::State &state) {
+    LayerKinds::install();
+    std::vector<double> data = linePoints();
+    for (auto _ : state) {
+        XYChart *c = XYChart::create(600, 300, 0xffff0000, 0xff000000, 0);
+        c->setPlotArea(50, 20, 500, 250, 0xff000000, -1, -1, 0xc0c0c0, 0xff000000);
+        c->addLineLayer(DoubleArray(data.data(), kLinePoints), -1, "", 0);
+        c->makeChart();
+        c->destroy();
+    }
+    state.SetItemsProcessed(state.iterations() * kLinePoints);
+}
+BENCHMARK(BM_LineChartOnTheEngine)->Unit(benchmark::kMillisecond);
 
 template <class Copy>
 void copyArray(benchmark::State &state, Copy copy) {

@@ -1,5 +1,6 @@
 // Bytes read as a run of calls on the flat interface of XY charts and pies:
-// axes and their look, marks, the plot area, bar layers, data sets, labels,
+// axes and their look, marks, the plot area, bar, line, scatter and area
+// layers, data sets, labels,
 // sectors, with any numbers and texts.  Handles once handed out are kept and
 // used again after later calls (a shorter pie, a custom label asked for
 // again), as an application keeps them.  Nothing may crash, hang or leak, and
@@ -17,10 +18,13 @@
 #include "api/chart/CTextBox.h"
 #include "api/pie/CPieChart.h"
 #include "api/pie/CSector.h"
+#include "api/xy/CAreaLayer.h"
 #include "api/xy/CBarLayer.h"
 #include "api/xy/CDataSet.h"
 #include "api/xy/CLayer.h"
+#include "api/xy/CLineLayer.h"
 #include "api/xy/CPlotArea.h"
+#include "api/xy/CScatterLayer.h"
 #include "api/xy/CXYChart.h"
 #include "fuzz/ByteReader.h"
 
@@ -65,6 +69,14 @@ struct Handles {
     }
 };
 
+// The points of a line, which must be whole pairs.
+void checkPoints(CLineObj *line) {
+    const double *points = nullptr;
+    int len = -1;
+    CLineObj_getPoints(line, &points, &len);
+    if (len < 0 || len % 2 || (len > 0 && !points)) abort();
+}
+
 void axisStep(Handles &h, Bytes &in) {
     CAxis *a = Handles::pick(h.axes, in);
     std::string s = in.text();
@@ -104,13 +116,34 @@ void axisStep(Handles &h, Bytes &in) {
             CMark_setLineWidth(m, in.byte() % 6);
             CMark_setDrawOnTop(m, in.byte() & 1);
             CTextBox_setAlignment(CMark_toTextBox(m), in.byte() % 14);
-            const double *points = nullptr;
-            int len = -1;
-            CLineObj_getPoints(CMark_getLine(m), &points, &len);
-            if (len < 0 || (len > 0 && !points)) abort();
+            checkPoints(CMark_getLine(m));
             break;
         }
     }
+}
+
+// The settings of each layer kind; those of another kind than the layer's get
+// a null handle.
+void kindStep(CLayer *l, Bytes &in) {
+    std::vector<double> v = in.values();
+    CBarLayer *b = CBarLayer_fromLayer(l);
+    CBarLayer_setBarGap(b, in.value(), in.value());
+    CBarLayer_setBarWidth(b, in.pixels(), in.pixels());
+    CBarLayer_setBarShape(b, in.byte() % 20, in.byte() % 4 - 1, in.byte() % 8 - 1);
+    CBarLayer_setRoundedCorners(b, in.pixels(), in.pixels(), -2147483647, in.pixels());
+    CLineLayer *line = CLineLayer_fromLayer(l);
+    CLineLayer_setGapColor(line, in.color(), in.byte() % 8 - 1);
+    CLineLayer_setFastLineMode(line, in.byte() & 1);
+    CLineLayer_setImageMapWidth(line, in.pixels());
+    if (in.byte() & 1)
+        CLineLayer_setSymbolScale2(line, v.data(), (int)v.size(), in.byte() % 4);
+    else
+        CLineLayer_setSymbolScale(line, v.data(), (int)v.size(), in.byte() % 4, v.data(),
+                                  (int)v.size() / 2, in.byte() % 4);
+    checkPoints(CLineLayer_getLine(line, in.byte() % 3));
+    CAreaLayer *area = CAreaLayer_fromLayer(l);
+    CAreaLayer_setMinLabelSize(area, in.pixels());
+    CAreaLayer_setGapColor(area, in.color());
 }
 
 void layerStep(Handles &h, Bytes &in) {
@@ -142,14 +175,9 @@ void layerStep(Handles &h, Bytes &in) {
             CLayer_setXData(l, v.data(), (int)v.size());
             CLayer_setUseYAxis(l, Handles::pick(h.axes, in));
             break;
-        case 5: {
-            CBarLayer *b = CBarLayer_fromLayer(l);
-            CBarLayer_setBarGap(b, in.value(), in.value());
-            CBarLayer_setBarWidth(b, in.pixels(), in.pixels());
-            CBarLayer_setBarShape(b, in.byte() % 20, in.byte() % 4 - 1, in.byte() % 8 - 1);
-            CBarLayer_setRoundedCorners(b, in.pixels(), in.pixels(), -2147483647, in.pixels());
+        case 5:
+            kindStep(l, in);
             break;
-        }
         case 6: {
             CDataSet *d = Handles::pick(h.sets, in);
             CDataSet_setData(d, v.data(), (int)v.size());
@@ -167,6 +195,30 @@ void layerStep(Handles &h, Bytes &in) {
     }
 }
 
+// A layer of some kind, with data or combining the sets added later.
+CLayer *addLayer(CXYChart *xy, Bytes &in) {
+    std::vector<double> v = in.values(), x = in.values();
+    int n = (int)v.size(), color = in.color(), depth = in.pixels() % 20, method = in.byte() % 6;
+    switch (in.byte() % 7) {
+        case 0:
+            return CBarLayer_toLayer(CXYChart_addBarLayer(xy, v.data(), n, color, "", depth));
+        case 1:
+            return CBarLayer_toLayer(CXYChart_addBarLayer2(xy, method, depth));
+        case 2:
+            return CLineLayer_toLayer(CXYChart_addLineLayer(xy, v.data(), n, color, "", depth));
+        case 3:
+            return CLineLayer_toLayer(CXYChart_addLineLayer2(xy, method, depth));
+        case 4:
+            return CAreaLayer_toLayer(CXYChart_addAreaLayer(xy, v.data(), n, color, "", depth));
+        case 5:
+            return CAreaLayer_toLayer(CXYChart_addAreaLayer2(xy, method, depth));
+        default:
+            return CScatterLayer_toLayer(CXYChart_addScatterLayer(xy, x.data(), (int)x.size(),
+                                                                  v.data(), n, "", in.byte() % 20,
+                                                                  in.pixels(), color, in.color()));
+    }
+}
+
 void chartStep(Handles &h, Bytes &in) {
     std::vector<double> v = in.values();
     switch (in.byte() % 6) {
@@ -176,11 +228,8 @@ void chartStep(Handles &h, Bytes &in) {
             CXYChart_setAxisAtOrigin(h.xy, in.byte() % 4, in.byte() % 64);
             break;
         case 1:
-            Handles::keep(h.layers,
-                          CBarLayer_toLayer(CXYChart_addBarLayer(
-                              h.xy, v.data(), (int)v.size(), in.color(), "", in.pixels() % 20)));
-            Handles::keep(h.layers,
-                          CBarLayer_toLayer(CXYChart_addBarLayer2(h.xy, in.byte() % 6, 0)));
+            Handles::keep(h.layers, addLayer(h.xy, in));
+            Handles::keep(h.layers, addLayer(h.xy, in));
             break;
         case 2: {
             CPlotArea *p =

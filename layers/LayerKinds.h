@@ -14,4 +14,13 @@ public:
     BarLayer *makeBarLayer2(XYChartImpl *chart, int dataCombineMethod, int depth) override;
     BarLayer *makeBarLayer3(XYChartImpl *chart, DoubleArray data, IntArray colors,
                             StringArray names, int depth) override;
+    LineLayer *makeLineLayer(XYChartImpl *chart, DoubleArray data, int color, const char *name,
+                             int depth) override;
+    LineLayer *makeLineLayer2(XYChartImpl *chart, int dataCombineMethod, int depth) override;
+    AreaLayer *makeAreaLayer(XYChartImpl *chart, DoubleArray data, int color, const char *name,
+                             int depth) override;
+    AreaLayer *makeAreaLayer2(XYChartImpl *chart, int dataCombineMethod, int depth) override;
+    ScatterLayer *makeScatterLayer(XYChartImpl *chart, DoubleArray xData, DoubleArray yData,
+                                   const char *name, int symbol, int symbolSize, int fillColor,
+                                   int edgeColor) override;
 };

@@ -6,7 +6,9 @@
 #include "chart/xy/PlotArea.h"
 #include "chart/xy/XYChart.h"
 #include "layers/LayerKinds.h"
+#include "layers/area/AreaLayer.h"
 #include "layers/bar/BarLayer.h"
+#include "layers/line/ScatterLayer.h"
 
 using vistrel_api::E;
 using vistrel_api::H;
@@ -103,6 +105,30 @@ CBarLayer *CXYChart_addBarLayer3(CXYChart *c, const double *data, int len, const
                                  int depth) {
     return c ? H(E(c)->addBarLayer3(DoubleArray(data, len), IntArray(colors, colorCount),
                                     StringArray(names, nameCount), depth))
+             : nullptr;
+}
+
+CLineLayer *CXYChart_addLineLayer(CXYChart *c, const double *data, int len, int color,
+                                  const char *name, int depth) {
+    return c ? H(E(c)->addLineLayer(DoubleArray(data, len), color, name ? name : "", depth))
+             : nullptr;
+}
+CLineLayer *CXYChart_addLineLayer2(CXYChart *c, int dataCombineMethod, int depth) {
+    return c ? H(E(c)->addLineLayer2(dataCombineMethod, depth)) : nullptr;
+}
+CAreaLayer *CXYChart_addAreaLayer(CXYChart *c, const double *data, int len, int color,
+                                  const char *name, int depth) {
+    return c ? H(E(c)->addAreaLayer(DoubleArray(data, len), color, name ? name : "", depth))
+             : nullptr;
+}
+CAreaLayer *CXYChart_addAreaLayer2(CXYChart *c, int dataCombineMethod, int depth) {
+    return c ? H(E(c)->addAreaLayer2(dataCombineMethod, depth)) : nullptr;
+}
+CScatterLayer *CXYChart_addScatterLayer(CXYChart *c, const double *xData, int xLen,
+                                        const double *yData, int yLen, const char *name, int symbol,
+                                        int symbolSize, int fillColor, int edgeColor) {
+    return c ? H(E(c)->addScatterLayer(DoubleArray(xData, xLen), DoubleArray(yData, yLen),
+                                       name ? name : "", symbol, symbolSize, fillColor, edgeColor))
              : nullptr;
 }
 

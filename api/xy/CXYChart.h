@@ -55,6 +55,22 @@ CBarLayer *CXYChart_addBarLayer3(CXYChart *c, const double *data, int len, const
                                  int colorCount, const char *const *names, int nameCount,
                                  int depth);
 
+/* A line layer of one data set, or one that combines the sets added to it by
+   the method; a depth above 0 draws the lines as 3D ribbons. */
+CLineLayer *CXYChart_addLineLayer(CXYChart *c, const double *data, int len, int color,
+                                  const char *name, int depth);
+CLineLayer *CXYChart_addLineLayer2(CXYChart *c, int dataCombineMethod, int depth);
+/* The same with areas filled down to the base line. */
+CAreaLayer *CXYChart_addAreaLayer(CXYChart *c, const double *data, int len, int color,
+                                  const char *name, int depth);
+CAreaLayer *CXYChart_addAreaLayer2(CXYChart *c, int dataCombineMethod, int depth);
+/* Symbols without lines at (xData[i], yData[i]): a symbol (kSquareSymbol, ...)
+   of the size, filled with fillColor (-1 the next data colour), edged with
+   edgeColor (-1 none). */
+CScatterLayer *CXYChart_addScatterLayer(CXYChart *c, const double *xData, int xLen,
+                                        const double *yData, int yLen, const char *name, int symbol,
+                                        int symbolSize, int fillColor, int edgeColor);
+
 /* In the order of adding, or by z (0 the bottom one); null out of range. */
 CLayer *CXYChart_getLayer(CXYChart *c, int i);
 CLayer *CXYChart_getLayerByZ(CXYChart *c, int i);

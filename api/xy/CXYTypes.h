@@ -1,7 +1,7 @@
 #pragma once
 
-/* Opaque handles of XY charts: the chart, its plot area, its layers and their
-   data sets.  The chart owns every one of them. */
+/* Opaque handles of XY charts: the chart, its plot area, its layers of each
+   kind and their data sets.  The chart owns every one of them. */
 
 #include "api/chart/CChartTypes.h"
 
@@ -14,6 +14,9 @@ typedef struct CPlotArea CPlotArea;
 typedef struct CLayer CLayer;
 typedef struct CDataSet CDataSet;
 typedef struct CBarLayer CBarLayer;
+typedef struct CLineLayer CLineLayer;
+typedef struct CScatterLayer CScatterLayer;
+typedef struct CAreaLayer CAreaLayer;
 
 #ifdef __cplusplus
 }

@@ -149,6 +149,8 @@ public:
     int getScaleType() const { return scaleType; }
     bool isReversed() const { return reversed; }
     bool isLogScale() const { return mapping.isLog(); }
+    // Whether the axis maps values through another one (syncAxis).
+    bool isSynced() const { return syncTarget && syncSlope != 0; }
     BaseChart *getOwner() const { return owner; }
     DrawArea *getDrawArea() const { return drawArea; }
     const Formatter *getFormatter() const { return formatter; }

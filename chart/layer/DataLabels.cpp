@@ -100,7 +100,25 @@ void DataLabels::makeLabel(const LabelSpot &spot) {
     box->setAlignment(boxAlignment);
     box->setAnchored(true);
     box->setZOrder(style->getZOrder());
+    if (spot.keepInside) keepInside(box, spot, x, boxAlignment);
     labels.push_back(new Label(box, mainColor));
+}
+
+// Alignments 1 to 9 in columns: the box starts at its anchor, is centred on
+// it, or ends at it.
+void DataLabels::keepInside(TextBoxImpl2 *box, const LabelSpot &spot, int x, int alignment) const {
+    if (alignment < 1 || alignment > 9) return;
+    box->layout(layer->getDrawArea());
+    int width = box->getWidth(), column = (alignment - 1) % 3;
+    int left = x - (column == 0 ? 0 : column == 1 ? width / 2 : width);
+    int moved = alignment;
+    if (left < spot.insideLeft && column > 0)
+        moved = alignment - column;
+    else if (left + width > spot.insideRight && column < 2)
+        moved = alignment + 2 - column;
+    if (moved == alignment) return;
+    box->resetLayout();
+    box->setAlignment(moved);
 }
 
 void DataLabels::addTo(std::vector<DrawObj *> &objects) const {

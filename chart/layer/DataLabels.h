@@ -33,6 +33,8 @@ private:
     // spot gets no label.
     TextBoxImpl *styleOf(const LabelSpot &spot, const char **templateText) const;
     void makeLabel(const LabelSpot &spot);
+    // Moves the alignment of a label near a side of the spot's range inward.
+    void keepInside(TextBoxImpl2 *box, const LabelSpot &spot, int x, int alignment) const;
 
     class Label;
 

@@ -1,5 +1,6 @@
 #include "chart/layer/DataSetImpl.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "chart/layer/LabelSettings.h"
@@ -19,6 +20,8 @@ DataSetImpl::DataSetImpl(LayerImpl *layer, int dataSetNo, int groupNo, TextBoxIm
       symbolOffsetX(0),
       symbolOffsetY(0),
       lineWidth(-1),
+      lowest(kNoValue),
+      highest(kNoValue),
       labelStyle(new TextBoxImpl2(layer->getChart(), layerLabelStyle)),
       labelsAsked(false) {}
 
@@ -27,11 +30,20 @@ DataSetImpl::~DataSetImpl() {
 }
 
 void DataSetImpl::setData(DoubleArray values) {
-    data.clear();
-    for (int i = 0; i < values.len; ++i) {
+    // One pass that copies, cleans and measures: a large series is read once.
+    int n = values.data ? std::max(values.len, 0) : 0;
+    data.resize(n);
+    double low = HUGE_VAL, high = -HUGE_VAL;
+    for (int i = 0; i < n; ++i) {
         double v = values.data[i];
-        data.push_back(std::isfinite(v) ? v : kNoValue);
+        if (!std::isfinite(v)) v = kNoValue;
+        data[i] = v;
+        if (v == kNoValue) continue;
+        low = std::min(low, v);
+        high = std::max(high, v);
     }
+    lowest = low <= high ? low : kNoValue;
+    highest = low <= high ? high : kNoValue;
     layer->dataChanged();
 }
 

@@ -45,6 +45,9 @@ public:
     double valueAt(int i) const { return i >= 0 && i < (int)data.size() ? data[i] : kNoValue; }
     int size() const { return (int)data.size(); }
     const std::vector<double> &values() const { return data; }
+    // The smallest and largest value; kNoValue for a set of gaps only.
+    double getLowest() const { return lowest; }
+    double getHighest() const { return highest; }
     int getDataSetNo() const { return dataSetNo; }
     int getGroupNo() const { return groupNo; }
     const std::string &getName() const { return dataName; }
@@ -77,6 +80,8 @@ private:
     int symbolOffsetX;
     int symbolOffsetY;
     int lineWidth;
+    double lowest;
+    double highest;
     std::string labelFormat;
     TextBoxImpl2 *labelStyle;
     bool labelsAsked;

@@ -1,5 +1,7 @@
 #include "chart/layer/LabelSettings.h"
 
+#include <climits>
+
 #include "text/box/TextBoxImpl2.h"
 
 namespace {
@@ -101,4 +103,13 @@ TextBoxImpl2 *LabelSettings::customAggregate(int dataGroup, int dataItem) const 
     if (at != groups.end()) return at->second;
     at = aggregates.find({kAnyGroup, dataItem});
     return at == aggregates.end() ? nullptr : at->second;
+}
+
+std::vector<int> LabelSettings::customDataItems(int dataSet) const {
+    std::vector<int> items;
+    for (auto it = points.lower_bound({dataSet, INT_MIN}); it != points.end(); ++it) {
+        if (it->first.first != dataSet) break;
+        items.push_back(it->first.second);
+    }
+    return items;
 }

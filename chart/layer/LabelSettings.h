@@ -3,6 +3,7 @@
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 class BoxContainer;
 class TextBox;
@@ -44,6 +45,8 @@ public:
     const std::string &getAggregateFormat() const { return aggregate.format; }
     // Null when none was given.
     TextBoxImpl2 *customData(int dataSet, int dataItem) const;
+    // The points of a data set that have labels of their own, in order.
+    std::vector<int> customDataItems(int dataSet) const;
     TextBoxImpl2 *customAggregate(int dataGroup, int dataItem) const;
 
 private:

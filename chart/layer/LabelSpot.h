@@ -15,4 +15,11 @@ struct LabelSpot {
     int right;
     int bottom;
     int endSide;
+    // The label stands outside the spot, as by a point: without an alignment
+    // of its own its bottom touches the end (kBottom turned by endSide).
+    bool outside = false;
+    // Near the sides of this range (canvas x) a label moves inward to stay in.
+    bool keepInside = false;
+    int insideLeft = 0;
+    int insideRight = 0;
 };

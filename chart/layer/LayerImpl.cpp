@@ -373,6 +373,29 @@ double LayerImpl::positionOf(int dataSet, int i) const {
     return total == 0 ? 0 : (stacks.stackBase(dataSet, i, true) + std::fabs(v)) / total * 100;
 }
 
+std::vector<int> LayerImpl::labelledPoints(int dataSet) const {
+    DataSetImpl *set = dataSetAt(dataSet);
+    std::vector<int> items;
+    if (!set) return items;
+    if (labels.hasDataLabels() || set->hasLabels()) {
+        for (int i = firstPoint(); i < endPoint(); ++i) items.push_back(i);
+        return items;
+    }
+    for (int i : labels.customDataItems(dataSet))
+        if (i >= firstPoint() && i < endPoint()) items.push_back(i);
+    return items;
+}
+
+double LayerImpl::floorOf(int dataSet, int i) const {
+    double v = stacks.value(dataSet, i);
+    if (v == kNoValue) return kNoValue;
+    if (dataCombineMethod == kStack) return stacks.stackBase(dataSet, i, false);
+    if (dataCombineMethod != kPercentage) return baseLine;
+    int g = dataSets[dataSet]->getGroupNo();
+    double total = stacks.accValue(stacks.groupBegin(g), stacks.groupEnd(g), i, true);
+    return total == 0 ? 0 : stacks.stackBase(dataSet, i, true) / total * 100;
+}
+
 // ---- Layout ----
 
 int LayerImpl::totalDepth() const {
@@ -412,8 +435,13 @@ void LayerImpl::addLegendKeys() {
             legend->addLegendItem(order, new LayerLegendText(this, s), icon);
         else
             legend->addLegendItem(order, new LayerLegendText(this, s), set->getDataColor(),
-                                  set->getLineWidth(), &set->getSymbol());
+                                  keyLineWidth(s), &set->getSymbol());
     }
+}
+
+int LayerImpl::keyLineWidth(int dataSet) const {
+    DataSetImpl *set = dataSetAt(dataSet);
+    return set ? set->getLineWidth() : 0;
 }
 
 void LayerImpl::preLayout(int) {

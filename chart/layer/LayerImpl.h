@@ -133,6 +133,8 @@ public:
     int firstPoint() const;
     int endPoint() const;
     double xValue(int i) const { return xPositions.at(i, dataCount); }
+    // The x values given one by one; empty when positions are a range or the index.
+    const std::vector<double> &getXValues() const { return xPositions.getValues(); }
     // The smallest and largest x of points from to to - 1; kNoValue if none.
     void xRange(int from, int to, double *min, double *max) const {
         xPositions.range(from, to, dataCount, min, max);
@@ -153,6 +155,8 @@ public:
     double yPixel(double value, const AxisImpl *axis) const;
     // The x pixel of point i, where an aligned layer puts it.
     double pointXPixel(int i) const;
+    // Whether the points stand where another layer's bars do (alignLayer).
+    bool isAligned() const { return alignedLayer != nullptr; }
     // The shift of the layer's front on the canvas.
     int getOffsetX() const { return offsetX; }
     int getOffsetY() const { return offsetY; }
@@ -160,9 +164,16 @@ public:
     void getPlotRect(int *left, int *top, int *right, int *bottom) const;
     // The place of the layer among the chart's layers.
     int getLayerIndex() const;
+    // The points of a data set in the window that get data labels: all of
+    // them when the set or the layer asks for labels, else those with labels
+    // of their own.
+    std::vector<int> labelledPoints(int dataSet) const;
     // The value a data set's point shows on its axis: its value, or the top
     // of its part of a stack.
     double positionOf(int dataSet, int i) const;
+    // Where a point's part starts on its axis: the top of the parts below it
+    // in a stack (kStack, kPercentage), else the base line; kNoValue for a gap.
+    double floorOf(int dataSet, int i) const;
     // A template filled with the attributes of a point (flags: the parser's
     // escaping), and with those of a data set as its legend key shows it.
     std::string fillTemplate(const char *text, int flags, const LabelSpot &point);
@@ -182,6 +193,9 @@ protected:
     virtual void collectHotSpots(std::vector<HotSpot> &) {}
     // The key of a data set; null draws the legend's colour patch.
     virtual LegendIcon *makeLegendIcon(int) { return nullptr; }
+    // The width of the line a data set's key shows, when the legend shows
+    // lines; 0 or less for none.
+    virtual int keyLineWidth(int dataSet) const;
     // The centre pixel of a point of the data set as this layer draws it.
     virtual bool alignedXPixel(int, int, double *) { return false; }
     // The default query of the layer's hot spots.

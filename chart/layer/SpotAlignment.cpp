@@ -53,16 +53,20 @@ int SpotAlignment::turn(int alignment, int endSide) {
 }
 
 void SpotAlignment::place(const LabelSpot &spot, int alignment, int *x, int *y, int *boxAlignment) {
-    if (alignment != kDefault || !spot.aggregate) {
-        int a = turn(alignment == kDefault ? kTop : alignment, spot.endSide);
-        pointAt(spot, a, x, y);
-        *boxAlignment = a;
+    if (spot.outside || (alignment == kDefault && spot.aggregate)) {
+        placeOutside(spot, alignment == kDefault ? kBottom : alignment, x, y, boxAlignment);
         return;
     }
-    // Outside the end: the box's far side touches the end's middle.
-    int a = turn(kTop, spot.endSide);
+    int a = turn(alignment == kDefault ? kTop : alignment, spot.endSide);
     pointAt(spot, a, x, y);
-    *boxAlignment = kOpposite[a];
+    *boxAlignment = a;
+}
+
+void SpotAlignment::placeOutside(const LabelSpot &spot, int alignment, int *x, int *y,
+                                 int *boxAlignment) {
+    *boxAlignment = turn(alignment, spot.endSide);
+    int a = kOpposite[*boxAlignment];
+    pointAt(spot, a, x, y);
     int row = (a - 1) / 3, column = (a - 1) % 3;
     if (row == 2) --*y;
     if (row == 0) ++*y;

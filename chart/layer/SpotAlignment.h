@@ -16,4 +16,10 @@ public:
     static int turn(int alignment, int endSide);
     // The point the label is anchored at and the label box's alignment there.
     static void place(const LabelSpot &spot, int alignment, int *x, int *y, int *boxAlignment);
+
+private:
+    // The box at the turned alignment, its opposite point on the spot, one
+    // pixel out.
+    static void placeOutside(const LabelSpot &spot, int alignment, int *x, int *y,
+                             int *boxAlignment);
 };

@@ -85,16 +85,28 @@ void StackedValues::fold(int method, const std::vector<bool> &usesAxis, int from
         }
         return;
     }
+    // Kept in locals: a large series is one pass in registers.
+    double low = *min, high = *max;
     for (int s = 0; s < n; ++s) {
         if (!usesAxis[s]) continue;
         const std::vector<double> &data = sets[s]->values();
-        for (int i = std::max(from, 0); i < to && i < (int)data.size(); ++i) {
+        int end = std::min(to, (int)data.size());
+        // A whole set: its extremes were taken when its data came.
+        if (from <= 0 && end == (int)data.size()) {
+            if (sets[s]->getLowest() == kNoValue) continue;
+            low = std::min(low, sets[s]->getLowest());
+            high = std::max(high, sets[s]->getHighest());
+            continue;
+        }
+        for (int i = std::max(from, 0); i < end; ++i) {
             double v = data[i];
             if (v == kNoValue) continue;
-            *min = std::min(*min, v);
-            *max = std::max(*max, v);
+            low = std::min(low, v);
+            high = std::max(high, v);
         }
     }
+    *min = low;
+    *max = high;
 }
 
 // Each group stacks its positive values upward and its negative values

@@ -16,34 +16,24 @@ double given(double v) {
 XPositions::XPositions() : ascending(true), minValue(kNoValue), maxValue(kNoValue) {}
 
 void XPositions::setValues(DoubleArray x) {
-    values.clear();
-    for (int i = 0; i < x.len; ++i) values.push_back(given(x.data[i]));
-    // Gaps break the order: such data are searched point by point.
-    ascending = true;
-    for (size_t i = 1; i < values.size() && ascending; ++i)
-        ascending =
-            values[i] != kNoValue && values[i - 1] != kNoValue && values[i - 1] <= values[i];
-    if (!values.empty() && values[0] == kNoValue) ascending = false;
+    // One pass that copies, cleans and checks the order.  Gaps break the
+    // order: such data are searched point by point.
+    int n = x.data ? std::max(x.len, 0) : 0;
+    values.resize(n);
+    bool rising = true;
+    double before = -HUGE_VAL;
+    for (int i = 0; i < n; ++i) {
+        double v = given(x.data[i]);
+        values[i] = v;
+        rising &= v != kNoValue && before <= v;
+        before = v;
+    }
+    ascending = rising;
 }
 
 void XPositions::setRange(double lower, double upper) {
     minValue = given(lower);
     maxValue = given(upper);
-}
-
-bool XPositions::hasRange() const {
-    return minValue != kNoValue && maxValue != kNoValue;
-}
-
-double XPositions::at(int i, int count) const {
-    if (i < 0) return kNoValue;
-    if (!values.empty()) return i < (int)values.size() ? values[i] : kNoValue;
-    if (hasRange()) {
-        if (count > 1)
-            return i < count ? minValue + (maxValue - minValue) * i / (count - 1) : kNoValue;
-        return i == 0 ? (minValue + maxValue) / 2 : kNoValue;
-    }
-    return i < count ? i : kNoValue;
 }
 
 int XPositions::nearestByScan(double x, int count) const {
@@ -98,6 +88,12 @@ void XPositions::range(int from, int to, int count, double *min, double *max) co
         double a = at(from, count), b = at(to - 1, count);
         *min = std::min(a, b);
         *max = std::max(a, b);
+        return;
+    }
+    // Rising positions without gaps start and end the range.
+    if (ascending && to <= (int)values.size()) {
+        *min = values[from];
+        *max = values[to - 1];
         return;
     }
     bool any = false;

@@ -169,6 +169,18 @@ void DataSymbol::paint(DrawArea *d, int x, int y, int w, int h) {
     }
 }
 
+void DataSymbol::paintAll(DrawArea *d, IntArray centres) {
+    if (!d || !centres.data || width < 1 || height < 1) return;
+    DrawArea *merged = customSymbol ? customSymbol : prepared;
+    if (shape != kNoShape && !canMergePrepared(d, width, height)) merged = nullptr;
+    if (merged) {
+        d->mergeAtPoints(merged, centres, kCenter);
+        return;
+    }
+    for (int i = 0; i + 1 < centres.len; i += 2)
+        paint(d, centres.data[i], centres.data[i + 1], width, height);
+}
+
 void DataSymbol::draw(DrawArea *d, double x, double y, int w, int h) {
     draw2(d, shape, polygon, x, y, w, h, drawFill, drawEdge, lineWidth);
 }

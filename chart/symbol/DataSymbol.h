@@ -43,6 +43,10 @@ public:
     void layoutChart(DrawArea *d, int dataColor, int edgeColor);
     // The symbol centred on (x, y) at the size asked for.
     void paint(DrawArea *d, int x, int y, int w, int h);
+    // The symbol at its own size centred on each x, y pair of centres: one
+    // record for all of them when the prepared canvas serves, else one shape
+    // each (a colour defined by position is drawn in place).
+    void paintAll(DrawArea *d, IntArray centres);
     // The shape directly, in the box with its top-left at (x, y).
     void draw(DrawArea *d, double x, double y, int w, int h);
     // One shape word in a box, with the colours given; polygon serves custom shapes.

@@ -66,6 +66,8 @@ public:
     void setPlotRect(int x, int y, int width, int height);
     bool isPlotRectSet() const { return plotRectSet; }
     void setClipping(int margin) { clipMargin = margin; }
+    // kNoClipping unless setClipping was called.
+    int getClipMargin() const { return clipMargin; }
     void setTrimData(int startPos, int len);
     int getTrimStart() const { return trimStart; }
     int getTrimLength() const { return trimLength; }

@@ -2,10 +2,13 @@
 
 #include "chart/base/BaseChart.h"
 
+class AreaLayer;
 class Axis;
 class BarLayer;
 class Layer;
+class LineLayer;
 class PlotArea;
+class ScatterLayer;
 
 // A chart with a rectangular plot area, four standard axes (bottom, top, left
 // and right) and any number of added ones, and a list of layers that draw the
@@ -60,6 +63,20 @@ public:
     virtual BarLayer *addBarLayer2(int dataCombineMethod, int depth) = 0;
     virtual BarLayer *addBarLayer3(DoubleArray data, IntArray colors, StringArray names,
                                    int depth) = 0;
+    // A line layer of one data set, or without data and combining the sets
+    // added to it by the method (kOverlay, kStack, ...); a depth above 0
+    // draws the lines as 3D ribbons.
+    virtual LineLayer *addLineLayer(DoubleArray data, int color, const char *name, int depth) = 0;
+    virtual LineLayer *addLineLayer2(int dataCombineMethod, int depth) = 0;
+    // The same with areas filled down to the base line.
+    virtual AreaLayer *addAreaLayer(DoubleArray data, int color, const char *name, int depth) = 0;
+    virtual AreaLayer *addAreaLayer2(int dataCombineMethod, int depth) = 0;
+    // Symbols without lines at the points (xData[i], yData[i]): a shape word
+    // (kSquareSymbol, ...) of the size, filled with fillColor (-1 the next
+    // data colour), edged with edgeColor (-1 none).
+    virtual ScatterLayer *addScatterLayer(DoubleArray xData, DoubleArray yData, const char *name,
+                                          int symbol, int symbolSize, int fillColor,
+                                          int edgeColor) = 0;
 
     // Layers in the order of adding; by z, 0 is the bottom one.  Null out of range.
     virtual Layer *getLayer(int i) = 0;

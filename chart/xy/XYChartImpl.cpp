@@ -109,6 +109,35 @@ BarLayer *XYChartImpl::addBarLayer3(DoubleArray data, IntArray colors, StringArr
     return makers ? makers->makeBarLayer3(this, data, colors, names, depth) : nullptr;
 }
 
+LineLayer *XYChartImpl::addLineLayer(DoubleArray data, int color, const char *name, int depth) {
+    LayerMakers *makers = LayerMakers::get();
+    return makers ? makers->makeLineLayer(this, data, color, name, depth) : nullptr;
+}
+
+LineLayer *XYChartImpl::addLineLayer2(int dataCombineMethod, int depth) {
+    LayerMakers *makers = LayerMakers::get();
+    return makers ? makers->makeLineLayer2(this, dataCombineMethod, depth) : nullptr;
+}
+
+AreaLayer *XYChartImpl::addAreaLayer(DoubleArray data, int color, const char *name, int depth) {
+    LayerMakers *makers = LayerMakers::get();
+    return makers ? makers->makeAreaLayer(this, data, color, name, depth) : nullptr;
+}
+
+AreaLayer *XYChartImpl::addAreaLayer2(int dataCombineMethod, int depth) {
+    LayerMakers *makers = LayerMakers::get();
+    return makers ? makers->makeAreaLayer2(this, dataCombineMethod, depth) : nullptr;
+}
+
+ScatterLayer *XYChartImpl::addScatterLayer(DoubleArray xData, DoubleArray yData,
+                                           const char *name, int symbol, int symbolSize,
+                                           int fillColor, int edgeColor) {
+    LayerMakers *makers = LayerMakers::get();
+    return makers ? makers->makeScatterLayer(this, xData, yData, name, symbol, symbolSize,
+                                             fillColor, edgeColor)
+                  : nullptr;
+}
+
 TemplateFieldSource *XYChartImpl::getChartFields() {
     return getExtraFields();
 }

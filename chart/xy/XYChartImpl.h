@@ -49,6 +49,13 @@ public:
     BarLayer *addBarLayer2(int dataCombineMethod, int depth) override;
     BarLayer *addBarLayer3(DoubleArray data, IntArray colors, StringArray names,
                            int depth) override;
+    LineLayer *addLineLayer(DoubleArray data, int color, const char *name, int depth) override;
+    LineLayer *addLineLayer2(int dataCombineMethod, int depth) override;
+    AreaLayer *addAreaLayer(DoubleArray data, int color, const char *name, int depth) override;
+    AreaLayer *addAreaLayer2(int dataCombineMethod, int depth) override;
+    ScatterLayer *addScatterLayer(DoubleArray xData, DoubleArray yData, const char *name,
+                                  int symbol, int symbolSize, int fillColor,
+                                  int edgeColor) override;
 
     Layer *getLayer(int i) override;
     Layer *getLayerByZ(int i) override;

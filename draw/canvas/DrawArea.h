@@ -148,6 +148,10 @@ public:
     virtual void mergeScaled(DrawArea *d, int x, int y, int width, int height,
                              int transparency) = 0;
     virtual void mergeRotated(DrawArea *d, double x, double y, double angle) = 0;
+    // d once at every point of xy (x, y pairs), aligned to each as merge does,
+    // as one record: the marks of a scatter.  Points whose copy misses the
+    // canvas are left out.
+    virtual void mergeAtPoints(DrawArea *d, IntArray xy, int align) = 0;
     virtual void tile(DrawArea *d, int transparency) = 0;
 
     virtual void setSearchPath(const char *path) = 0;

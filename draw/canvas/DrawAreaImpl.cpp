@@ -766,6 +766,22 @@ void DrawAreaImpl::mergeRotated(DrawArea *d, double x, double y, double angle) {
     metaDraw->mergeRotated(d->getMetaDraw(), x, y, angle);
 }
 
+void DrawAreaImpl::mergeAtPoints(DrawArea *d, IntArray xy, int align) {
+    if (!d || d == this || !xy.data || xy.len < 2) return;
+    int w = d->getWidth(), h = d->getHeight();
+    long long dx = alignX(w, align), dy = alignY(h, align);
+    std::vector<int> corners;
+    corners.reserve(xy.len & ~1);
+    for (int i = 0; i + 1 < xy.len; i += 2) {
+        long long x = xy.data[i] - dx, y = xy.data[i + 1] - dy;
+        if (x + w <= 0 || y + h <= 0 || x >= width || y >= height) continue;
+        corners.push_back((int)x);
+        corners.push_back((int)y);
+    }
+    if (corners.empty()) return;
+    metaDraw->mergeAtPoints(d->getMetaDraw(), w, h, IntArray(corners.data(), (int)corners.size()));
+}
+
 void DrawAreaImpl::clone(DrawArea *d, int x, int y, int align, int newWidth, int newHeight, int,
                          double) {
     if (!d || d == this) return;

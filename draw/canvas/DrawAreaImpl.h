@@ -110,6 +110,7 @@ public:
     void merge(DrawArea *d, int x, int y, int align, int transparency) override;
     void mergeScaled(DrawArea *d, int x, int y, int width, int height, int transparency) override;
     void mergeRotated(DrawArea *d, double x, double y, double angle) override;
+    void mergeAtPoints(DrawArea *d, IntArray xy, int align) override;
     void tile(DrawArea *d, int transparency) override;
 
     void setSearchPath(const char *path) override;

@@ -113,6 +113,9 @@ public:
     virtual void mergeScaled(MetaDraw *source, int x, int y, int width, int height,
                              int transparency) = 0;
     virtual void mergeRotated(MetaDraw *source, double x, double y, double angle) = 0;
+    // The source once at every point: its top-left corner at each x, y pair
+    // of points, unscaled.  One record however many points.
+    virtual void mergeAtPoints(MetaDraw *source, int width, int height, IntArray points) = 0;
     // The pixel block is borrowed: it must outlive the list.
     virtual void mergeBitMap(const int *pixels, int count, int width, int x, int y) = 0;
     // Takes ownership of an encoded image block allocated with malloc.

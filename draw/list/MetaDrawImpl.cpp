@@ -479,6 +479,13 @@ void MetaDrawImpl::mergeRotated(MetaDraw *source, double x, double y, double ang
     writeRecord<kOpMergeWithRotation>(symbolId, x, y, angle);
 }
 
+void MetaDrawImpl::mergeAtPoints(MetaDraw *source, int width, int height, IntArray points) {
+    MetaDrawImpl *src = static_cast<MetaDrawImpl *>(source);
+    if (!src || src == this || width <= 0 || height <= 0 || points.len < 2 || !points.data) return;
+    int symbolId = defineListSymbol(src);
+    writeRecord<kOpMergeAtPoints>(symbolId, width, height, IntArray(points.data, points.len & ~1));
+}
+
 void MetaDrawImpl::mergeBitMap(const int *pixels, int count, int width, int x, int y) {
     if (!pixels || count <= 0 || width <= 0) return;
     int symbolId = addSymbol(kPixelSymbol, const_cast<int *>(pixels), count);

@@ -68,6 +68,7 @@ public:
     void mergeScaled(MetaDraw *source, int x, int y, int width, int height,
                      int transparency) override;
     void mergeRotated(MetaDraw *source, double x, double y, double angle) override;
+    void mergeAtPoints(MetaDraw *source, int width, int height, IntArray points) override;
     void mergeBitMap(const int *pixels, int count, int width, int x, int y) override;
     void loadStream(char *data, int length, int imageType, int width, int height) override;
     void setSubDrawMode() override;

@@ -16,7 +16,7 @@
 // fixed array parameter takes one letter per element, and D, I and X arrive as
 // views.  An Own record has a reader of its own in the player.
 //
-// Drawing records are 0 to 24.  Colour records (top bit set) define the
+// Drawing records are 0 to 25.  Colour records (top bit set) define the
 // dynamic colour `handle` and leave a pending line batch open.
 //
 // Notes on parameters: SetBgDropShadow's fourth integer is unused.  Radii and
@@ -29,7 +29,10 @@
 // pixels run row by row, `width` to a row.  ZoneColor with `vertical` changes
 // along y at pixel `boundary`.  DefineSymbol plays as beginSymbol, the
 // symbol's records and DrawBackEnd::endSymbol.  MergeBitMap's pixels and
-// LoadStream's encoded image (kPNG ...) are the list's symbols.
+// LoadStream's encoded image (kPNG ...) are the list's symbols.  MergeAtPoints
+// puts one symbol, unscaled at width by height, with its top-left corner at
+// each point of `points` (x and y alternately): a scatter of marks in one
+// record.
 //
 // clang-format off
 #define VISTREL_META_DRAWING_RECORDS(X) \
@@ -57,7 +60,8 @@
     X(MergeWithRotation,    21, "iddd",          ".ss.",          Args, mergeWithRotation,   (int id, double x, double y, double angle)) \
     X(MergeBitMap,          22, "iiii",          "..ss",          Own,  mergeBitMap,         (int id, IntArray pixels, int width, int x, int y)) \
     X(LoadStream,           23, "iiii",          "....",          Own,  loadStream,          (int id, const char *data, int length, int imageType, int width, int height)) \
-    X(InitDynamicLayer,     24, "",              "",              Args, initDynamicLayer,    ())
+    X(InitDynamicLayer,     24, "",              "",              Args, initDynamicLayer,    ()) \
+    X(MergeAtPoints,        25, "iiiI",          ".sss",          Args, mergeAtPoints,       (int id, int width, int height, IntArray points))
 
 #define VISTREL_META_COLOR_RECORDS(X) \
     X(SetSubDrawMode,              0x80000000u, "",         "",         Args, setSubDrawMode,              ()) \

@@ -28,33 +28,96 @@ int ImagePalette::toPalette(const PixelImage &image, int *palette, unsigned char
     return quantizedPalette(image, palette, indexes, alphaTable);
 }
 
+namespace {
+
+// Colour words and their entries in a table of twice the palette's size,
+// open-addressed: the few colours of a chart are found in a probe or two.
+class HashedColors {
+public:
+    HashedColors() {
+        for (unsigned &k : keys) k = kEmpty;
+    }
+    // The entry of c, added when new; -1 when the palette is full.
+    int entryOf(int c) {
+        unsigned key = (unsigned)c;
+        for (unsigned slot = (key * 0x9E3779B1u) >> (32 - kBits);; slot = (slot + 1) & kMask) {
+            if (keys[slot] == key) return entries[slot];
+            if (keys[slot] != kEmpty) continue;
+            if (count >= 256) return -1;
+            keys[slot] = key;
+            entries[slot] = (unsigned char)count;
+            order[count] = c;
+            return count++;
+        }
+    }
+    int size() const { return count; }
+    int colorAt(int entry) const { return order[entry]; }
+
+private:
+    static const int kBits = 9;
+    static const unsigned kMask = (1u << kBits) - 1;
+    // No key is a word with the top byte 255 but kTransparent itself.
+    static const unsigned kEmpty = 0xFFFFFFFFu;
+    unsigned keys[1 << kBits];
+    unsigned char entries[1 << kBits];
+    int order[256];
+    int count = 0;
+};
+
+// The same with an ordered map.
+class MappedColors {
+public:
+    int entryOf(int c) {
+        auto found = table.find(c);
+        if (found != table.end()) return found->second;
+        if (table.size() >= 256) return -1;
+        int entry = (int)table.size();
+        table.emplace(c, entry);
+        order.push_back(c);
+        return entry;
+    }
+    int size() const { return (int)table.size(); }
+    int colorAt(int entry) const { return order[entry]; }
+
+private:
+    std::map<int, int> table;
+    std::vector<int> order;
+};
+
+}  // namespace
+
 int ImagePalette::exactPalette(const PixelImage &image, int *palette, unsigned char *indexes,
                                unsigned char *alphaTable) {
-    std::map<int, int> table;
-    if (image.hasTransparentColor()) table[image.transparentColor] = 0;
+    return scanColors<HashedColors>(image, palette, indexes, alphaTable);
+}
+
+int ImagePalette::exactPaletteByMap(const PixelImage &image, int *palette, unsigned char *indexes,
+                                    unsigned char *alphaTable) {
+    return scanColors<MappedColors>(image, palette, indexes, alphaTable);
+}
+
+template <class Colors>
+int ImagePalette::scanColors(const PixelImage &image, int *palette, unsigned char *indexes,
+                             unsigned char *alphaTable) {
+    Colors colors;
+    if (image.hasTransparentColor()) colors.entryOf(image.transparentColor);
     int n = image.pixelCount();
     int last = 0, lastIndex = -1;
     for (int i = 0; i < n; ++i) {
         int c = paletteKey(image.pixels[i]);
-        if (lastIndex >= 0 && c == last) {
-            indexes[i] = (unsigned char)lastIndex;
-            continue;
+        if (lastIndex < 0 || c != last) {
+            lastIndex = colors.entryOf(c);
+            if (lastIndex < 0) return 0;
+            last = c;
         }
-        auto found = table.find(c);
-        if (found == table.end()) {
-            if (table.size() >= 256) return 0;
-            found = table.emplace(c, (int)table.size()).first;
-        }
-        last = c;
-        lastIndex = found->second;
         indexes[i] = (unsigned char)lastIndex;
     }
-    for (const auto &entry : table) {
-        palette[entry.second] = entry.first;
-        alphaTable[entry.second] = (unsigned char)(255 - PixelImage::alphaOf(entry.first));
+    for (int entry = 0; entry < colors.size(); ++entry) {
+        palette[entry] = colors.colorAt(entry);
+        alphaTable[entry] = (unsigned char)(255 - PixelImage::alphaOf(palette[entry]));
     }
     if (image.hasTransparentColor()) alphaTable[0] = 0;
-    return (int)table.size();
+    return colors.size();
 }
 
 int ImagePalette::quantizedPalette(const PixelImage &image, int *palette, unsigned char *indexes,

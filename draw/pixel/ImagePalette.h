@@ -19,9 +19,19 @@ public:
     static int reduceColors(int *pixels, int width, int height, int colorCount, bool blackAndWhite,
                             int ditherMethod);
 
-private:
+    // The palette of an image of at most 256 colours, entries in the order
+    // the colours turn up; 0 for more colours.  Found through a hash table;
+    // exactPaletteByMap is the plain form with an ordered map, which gives the
+    // same entries.
     static int exactPalette(const PixelImage &image, int *palette, unsigned char *indexes,
                             unsigned char *alphaTable);
+    static int exactPaletteByMap(const PixelImage &image, int *palette, unsigned char *indexes,
+                                 unsigned char *alphaTable);
+
+private:
+    template <class Colors>
+    static int scanColors(const PixelImage &image, int *palette, unsigned char *indexes,
+                          unsigned char *alphaTable);
     static int quantizedPalette(const PixelImage &image, int *palette, unsigned char *indexes,
                                 unsigned char *alphaTable);
 };

@@ -13,6 +13,7 @@
 #include "draw/raster/AAShape.h"
 #include "draw/raster/CoverageGrid.h"
 #include "draw/raster/GlyphRaster.h"
+#include "draw/raster/SymbolStamp.h"
 #include "draw/raster/brush/GradientBrushes.h"
 #include "draw/raster/brush/LightingBrushes.h"
 #include "draw/raster/brush/PatternBrushes.h"
@@ -768,17 +769,56 @@ void DrawBMPImpl::blendImage(const PixelBuffer &image, int x, int y, int transpa
         }
 }
 
-void DrawBMPImpl::mergeWithScaling(int id, int x, int y, int w, int h, int transparency) {
+const PixelBuffer *DrawBMPImpl::symbolAtSize(int id, int w, int h, PixelBuffer &scaled) const {
     auto it = symbols.find(id);
-    if (it == symbols.end() || it->second.isEmpty() || w <= 0 || h <= 0 || transparency >= 255)
-        return;
-    if ((long long)w * h > kMaxPixels) return;
+    if (it == symbols.end() || it->second.isEmpty() || w <= 0 || h <= 0) return nullptr;
+    if ((long long)w * h > kMaxPixels) return nullptr;
     const PixelBuffer &src = it->second;
-    if (w == src.width && h == src.height) {
-        blendImage(src, x, y, transparency);
-        return;
+    if (w == src.width && h == src.height) return &src;
+    scaled = ImageOps::resize(src, w, h, ImageOps::kLinearFilter, 1.0);
+    return &scaled;
+}
+
+void DrawBMPImpl::mergeWithScaling(int id, int x, int y, int w, int h, int transparency) {
+    PixelBuffer scaled;
+    const PixelBuffer *image = transparency < 255 ? symbolAtSize(id, w, h, scaled) : nullptr;
+    if (image) blendImage(*image, x, y, transparency);
+}
+
+void DrawBMPImpl::mergeAtPoints(int id, int w, int h, IntArray points) {
+    PixelBuffer scaled;
+    const PixelBuffer *image = points.data ? symbolAtSize(id, w, h, scaled) : nullptr;
+    if (!image) return;
+    int count = points.len / 2;
+    if (stampAtPoints(*image, points.data, count)) return;
+    for (int i = 0; i < count; ++i) blendImage(*image, points.data[2 * i], points.data[2 * i + 1], 0);
+}
+
+bool DrawBMPImpl::stampAtPoints(const PixelBuffer &image, const int *points, int count) {
+    SymbolStamp stamp(image);
+    // Super pixels keep samples of their own: those take the marks one by one.
+    if (!stamp.isStamp() || superPixels.isActive()) return false;
+    long long left = clipRight + 1LL, top = clipBottom + 1LL, right = clipLeft - 1LL,
+              bottom = clipTop - 1LL;
+    for (int i = 0; i < count; ++i) {
+        left = std::min(left, (long long)points[2 * i]);
+        top = std::min(top, (long long)points[2 * i + 1]);
+        right = std::max(right, (long long)points[2 * i] + image.width - 1);
+        bottom = std::max(bottom, (long long)points[2 * i + 1] + image.height - 1);
     }
-    blendImage(ImageOps::resize(src, w, h, ImageOps::kLinearFilter, 1.0), x, y, transparency);
+    SymbolStamp::Cover cover((int)std::max(left, (long long)clipLeft),
+                             (int)std::max(top, (long long)clipTop),
+                             (int)std::min(right, (long long)clipRight),
+                             (int)std::min(bottom, (long long)clipBottom));
+    if (cover.isEmpty()) return true;
+    stamp.stampAll(cover, points, count);
+    unsigned color = stamp.getColor();
+    for (int y = cover.getTop(); y < cover.getTop() + cover.getHeight(); ++y)
+        for (int x = cover.getLeft(); x < cover.getLeft() + cover.getWidth(); ++x) {
+            unsigned shows = cover.showing(x, y);
+            if (shows < 255) store(pixelAt(x, y), color | shows << 24);
+        }
+    return true;
 }
 
 void DrawBMPImpl::mergeWithRotation(int id, double x, double y, double angle) {

@@ -91,6 +91,7 @@ public:
     void endSymbol(int id) override;
     void mergeWithScaling(int id, int x, int y, int width, int height, int transparency) override;
     void mergeWithRotation(int id, double x, double y, double angle) override;
+    void mergeAtPoints(int id, int width, int height, IntArray points) override;
     void mergeBitMap(int id, IntArray pixels, int width, int x, int y) override;
     void loadStream(int id, const char *data, int length, int imageType, int width,
                     int height) override;
@@ -172,6 +173,12 @@ private:
     void saveSurface(Surface &s);
     void restoreSurface(Surface &s);
     void blendImage(const PixelBuffer &image, int x, int y, int transparency);
+    // The symbol's picture at width by height, scaled when it has another size.
+    const PixelBuffer *symbolAtSize(int id, int width, int height, PixelBuffer &scaled) const;
+    // A plain mark at every point, each corner on a point: the stamps gathered
+    // into one cover over the points' box in the clip, laid once.  False for a
+    // picture that is no plain mark.
+    bool stampAtPoints(const PixelBuffer &image, const int *points, int pointCount);
 
     MetaDraw *metaDraw;
     DrawBMPImpl *parent;

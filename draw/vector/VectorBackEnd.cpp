@@ -556,6 +556,11 @@ void VectorBackEnd::mergeWithScaling(int id, int x, int y, int width, int height
                 std::max(transparency, 0));
 }
 
+void VectorBackEnd::mergeAtPoints(int id, int width, int height, IntArray points) {
+    for (int i = 0; points.data && i + 1 < points.len; i += 2)
+        mergeWithScaling(id, points.data[i], points.data[i + 1], width, height, 0);
+}
+
 void VectorBackEnd::mergeWithRotation(int id, double x, double y, double angle) {
     flushTriangles();
     if (!isSymbolDefined(id) || !isCoor(x) || !isCoor(y) || !std::isfinite(angle)) return;

@@ -65,6 +65,8 @@ public:
     void beginSymbol(int id) override;
     void mergeWithScaling(int id, int x, int y, int width, int height, int transparency) override;
     void mergeWithRotation(int id, double x, double y, double angle) override;
+    // The symbol is defined once and placed at each point.
+    void mergeAtPoints(int id, int width, int height, IntArray points) override;
     void mergeBitMap(int id, IntArray pixels, int width, int x, int y) override;
     void loadStream(int id, const char *data, int length, int imageType, int width,
                     int height) override;

@@ -1,5 +1,5 @@
 // The plug-in layer: the classes the host is given, a drawing made through
-// the flat interface that the host classes and C programs call, and a chart
+// the flat interface that the host classes and C programs call, and charts
 // built through the wrappers behind the host's chart classes.
 #include <cstdio>
 
@@ -11,6 +11,7 @@
 #include "host/abc/chart/MultiChart.h"
 #include "host/abc/chart/TextBox.h"
 #include "host/abc/chart/VSLine.h"
+#include "host/abc/xy/XYChart.h"
 #include "host/classes/ClassReference.h"
 
 static bool classListing(const std::string &path) {
@@ -79,9 +80,50 @@ static bool wrappedCharts(const std::string &path) {
     return ok;
 }
 
+// Lines over stacked areas with scatter symbols sized per point, each layer
+// made and set through its wrapper.
+static bool wrappedLines(const std::string &path) {
+    const int kNoEdge = (int)0xFF000000, kSameAsMain = (int)0xFFFF0007;
+    const double kNoValue = 1.7e308;
+    const double months[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
+    const double visits[] = {42, 48, 45, 57, 61, kNoValue, 70, 66, 74, 81, 78, 88};
+    const double orders[] = {20, 26, 24, 29, 35, 38, 41, 37, 44, 49, 47, 55};
+    const double base[] = {8, 10, 9, 12, 13, 15, 14, 16, 18, 17, 19, 21};
+    const double extra[] = {6, 7, 9, 8, 10, 9, 12, 11, 10, 13, 14, 12};
+    const double sizes[] = {6, 9, 7, 12, 10, 14, 11, 9, 15, 13, 10, 16};
+    abc::XYChart *c = abc::XYChart::create(480, 280, 0xffffff, kNoEdge, 0);
+    c->addTitle("Lines, areas and symbols through the wrappers", "", 11, 0x1f3a5f, kNoEdge,
+                kNoEdge);
+    c->setPlotArea(50, 50, 400, 190, 0xf7f9fc, -1, kNoEdge, 0xdde3ea, kNoEdge);
+    c->addLegend(50, 22, false, "", 8)->setBackground(kNoEdge, kNoEdge, 0);
+    c->xAxis()->setLinearScale(1, 12, 1, 0);
+
+    abc::AreaLayer *areas = c->addAreaLayer2(1, 0);
+    areas->setXData({12, months});
+    areas->addDataSet({12, base}, 0xb7d3ee, "Returning");
+    areas->addDataSet({12, extra}, 0xd6e8c2, "New");
+    areas->setBorderColor(kSameAsMain, 0);
+
+    abc::LineLayer *lines = c->addLineLayer2(0, 0);
+    lines->setXData({12, months});
+    lines->addDataSet({12, visits}, 0x4a90d9, "Visits")->setDataSymbol(7, 7, -1, -1, 1);
+    lines->addDataSet({12, orders}, 0xe4572e, "Orders");
+    lines->setLineWidth(2);
+    lines->setGapColor(kSameAsMain, 1);
+
+    abc::ScatterLayer *dots =
+        c->addScatterLayer({12, months}, {12, orders}, "Basket", 2, 9, 0xf2b134, 0x7a5a10);
+    dots->setSymbolScale2({12, sizes}, 0);
+    bool ok = c->makeChart(path.c_str());
+    delete c;
+    return ok;
+}
+
 VISTREL_GALLERY_SAMPLE("Plug-in", "The host classes with their declarations, as registered",
                        "host_classes.txt", classListing);
 VISTREL_GALLERY_SAMPLE("Plug-in", "Bars drawn through the flat interface: palette, glass, gold",
                        "flat_interface.png", flatCanvas);
 VISTREL_GALLERY_SAMPLE("Plug-in", "Charts in a multi-chart, built through the host's wrappers",
                        "host_multichart.png", wrappedCharts);
+VISTREL_GALLERY_SAMPLE("Plug-in", "Lines, stacked areas and sized symbols through the wrappers",
+                       "host_lines.png", wrappedLines);

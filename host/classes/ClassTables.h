@@ -18,6 +18,8 @@ extern const ClassTables kXYChartTables;
 extern const ClassTables kPlotAreaTables;
 extern const ClassTables kLayerTables;
 extern const ClassTables kBarLayerTables;
+extern const ClassTables kLineLayerTables;
+extern const ClassTables kAreaLayerTables;
 extern const ClassTables kDataSetTables;
 extern const ClassTables kMarkTables;
 extern const ClassTables kLineObjTables;

@@ -8,9 +8,11 @@
 #include "host/abc/chart/VSLine.h"
 #include "host/abc/pie/PieChart.h"
 #include "host/abc/pie/Sector.h"
+#include "host/abc/xy/AreaLayer.h"
 #include "host/abc/xy/BarLayer.h"
 #include "host/abc/xy/DataSet.h"
 #include "host/abc/xy/Layer.h"
+#include "host/abc/xy/LineLayer.h"
 #include "host/abc/xy/PlotArea.h"
 #include "host/abc/xy/XYChart.h"
 #include "host/glue/Blocks.h"
@@ -134,4 +136,10 @@ struct LayerTarget : LayerSlot<abc::Layer, &LayerBlock::layer> {
 };
 struct BarLayerTarget : LayerSlot<abc::BarLayer, &LayerBlock::barLayer> {
     static constexpr const char *kWord = "barlayer";
+};
+struct LineLayerTarget : LayerSlot<abc::LineLayer, &LayerBlock::lineLayer> {
+    static constexpr const char *kWord = "linelayer";
+};
+struct AreaLayerTarget : LayerSlot<abc::AreaLayer, &LayerBlock::areaLayer> {
+    static constexpr const char *kWord = "arealayer";
 };

@@ -112,6 +112,12 @@ struct PartResult<abc::Layer *> : PartOf<abc::Layer, &NewLayerXPG> {};
 template <>
 struct PartResult<abc::BarLayer *> : PartOf<abc::BarLayer, &NewBarLayerXPG> {};
 template <>
+struct PartResult<abc::LineLayer *> : PartOf<abc::LineLayer, &NewLineLayerXPG> {};
+template <>
+struct PartResult<abc::ScatterLayer *> : PartOf<abc::ScatterLayer, &NewScatterLayerXPG> {};
+template <>
+struct PartResult<abc::AreaLayer *> : PartOf<abc::AreaLayer, &NewAreaLayerXPG> {};
+template <>
 struct PartResult<abc::DataSet *> : PartOf<abc::DataSet, &NewDataSetXPG> {};
 template <>
 struct PartResult<abc::Mark *> : PartOf<abc::Mark, &NewMarkXPG> {};

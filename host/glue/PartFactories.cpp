@@ -4,10 +4,12 @@
 #include "host/abc/chart/LineObj.h"
 #include "host/abc/chart/Mark.h"
 #include "host/abc/pie/Sector.h"
+#include "host/abc/xy/AreaLayer.h"
 #include "host/abc/xy/BarLayer.h"
 #include "host/abc/xy/DataSet.h"
 #include "host/abc/xy/Layer.h"
 #include "host/abc/xy/PlotArea.h"
+#include "host/abc/xy/ScatterLayer.h"
 #include "host/glue/Blocks.h"
 #include "host/glue/ChartFactories.h"
 #include "host/glue/ClassRegistry.h"
@@ -34,9 +36,18 @@ struct LayerClass {
     bool (*install)(LayerBlock &block, abc::Layer *layer);
 };
 
+// The wrapper in each of the slots, when it is of all their kinds.
+template <auto... Slots>
+bool installKind(LayerBlock &block, abc::Layer *layer) {
+    return (installAs<Slots>(block, layer) && ...);
+}
+
 // Tested in this order: a kind derived from another comes before it.
 const LayerClass kLayerClasses[] = {
-    {"VSBarLayerXPG", &installAs<&LayerBlock::barLayer, abc::Layer>},
+    {"VSBarLayerXPG", &installKind<&LayerBlock::barLayer>},
+    {"VSScatterLayerXPG", &installKind<&LayerBlock::scatterLayer, &LayerBlock::lineLayer>},
+    {"VSLineLayerXPG", &installKind<&LayerBlock::lineLayer>},
+    {"VSAreaLayerXPG", &installKind<&LayerBlock::areaLayer>},
 };
 
 }  // namespace
@@ -72,6 +83,18 @@ REALobject NewLayerXPG(abc::Layer *layer, REALobject owner, REALobject parent) {
 }
 
 REALobject NewBarLayerXPG(abc::BarLayer *layer, REALobject owner, REALobject parent) {
+    return NewLayerXPG(layer, owner, parent);
+}
+
+REALobject NewLineLayerXPG(abc::LineLayer *layer, REALobject owner, REALobject parent) {
+    return NewLayerXPG(layer, owner, parent);
+}
+
+REALobject NewScatterLayerXPG(abc::ScatterLayer *layer, REALobject owner, REALobject parent) {
+    return NewLayerXPG(layer, owner, parent);
+}
+
+REALobject NewAreaLayerXPG(abc::AreaLayer *layer, REALobject owner, REALobject parent) {
     return NewLayerXPG(layer, owner, parent);
 }
 

@@ -4,12 +4,15 @@
 
 namespace abc {
 class Axis;
+class AreaLayer;
 class BarLayer;
 class DataSet;
 class Layer;
+class LineLayer;
 class LineObj;
 class Mark;
 class PlotArea;
+class ScatterLayer;
 class Sector;
 }  // namespace abc
 
@@ -21,9 +24,13 @@ class Sector;
 REALobject NewAxisXPG(abc::Axis *axis, REALobject owner, REALobject parent);
 REALobject NewPlotAreaXPG(abc::PlotArea *plotArea, REALobject owner, REALobject parent);
 // A layer of the host class of its kind, its wrapper in the block's base slot
-// and in the slot of its kind; VSLayerXPG for a kind without a class.
+// and in the slots of its kind and the kinds it derives from (a scatter layer's
+// in the line layer's too); VSLayerXPG for a kind without a class.
 REALobject NewLayerXPG(abc::Layer *layer, REALobject owner, REALobject parent);
 REALobject NewBarLayerXPG(abc::BarLayer *layer, REALobject owner, REALobject parent);
+REALobject NewLineLayerXPG(abc::LineLayer *layer, REALobject owner, REALobject parent);
+REALobject NewScatterLayerXPG(abc::ScatterLayer *layer, REALobject owner, REALobject parent);
+REALobject NewAreaLayerXPG(abc::AreaLayer *layer, REALobject owner, REALobject parent);
 REALobject NewDataSetXPG(abc::DataSet *dataSet, REALobject owner, REALobject parent);
 REALobject NewMarkXPG(abc::Mark *mark, REALobject owner, REALobject parent);
 REALobject NewLineObjXPG(abc::LineObj *line, REALobject owner, REALobject parent);

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include "api/CArrayMath.h"
 #include "api/CChart.h"
@@ -20,13 +21,22 @@
 #include "api/chart/CVSMLTable.h"
 #include "api/pie/CPieChart.h"
 #include "api/pie/CSector.h"
+#include "api/xy/CAreaLayer.h"
 #include "api/xy/CBarLayer.h"
 #include "api/xy/CDataSet.h"
 #include "api/xy/CLayer.h"
+#include "api/xy/CLineLayer.h"
 #include "api/xy/CPlotArea.h"
+#include "api/xy/CScatterLayer.h"
 #include "api/xy/CXYChart.h"
+#include "chart/axis/paint/LineObj.h"
+#include "chart/layer/Layer.h"
+#include "chart/xy/XYChart.h"
 #include "draw/canvas/DrawArea.h"
+#include "draw/pixel/ColorWords.h"
 #include "foundation/Constants.h"
+#include "layers/LayerKinds.h"
+#include "layers/line/LineLayer.h"
 
 namespace {
 
@@ -220,6 +230,17 @@ TEST(CApi, NullPlotHandlesReadAsZero) {
     EXPECT_EQ(nullptr, CBarLayer_toLayer(nullptr));
     EXPECT_EQ(nullptr, CBarLayer_fromLayer(nullptr));
     CBarLayer_setRoundedCorners(nullptr, 1, 2, 3, 4);
+    EXPECT_EQ(nullptr, CXYChart_addLineLayer(nullptr, nullptr, 3, -1, nullptr, 0));
+    EXPECT_EQ(nullptr, CXYChart_addAreaLayer2(nullptr, kStack, 0));
+    EXPECT_EQ(nullptr, CXYChart_addScatterLayer(nullptr, nullptr, 2, nullptr, 2, "", 1, 5, -1, -1));
+    EXPECT_EQ(nullptr, CLineLayer_toLayer(nullptr));
+    EXPECT_EQ(nullptr, CLineLayer_fromLayer(nullptr));
+    EXPECT_EQ(nullptr, CLineLayer_getLine(nullptr, 0));
+    CLineLayer_setSymbolScale(nullptr, nullptr, 3, 0, nullptr, 3, 0);
+    EXPECT_EQ(nullptr, CScatterLayer_toLineLayer(nullptr));
+    EXPECT_EQ(nullptr, CScatterLayer_fromLayer(nullptr));
+    EXPECT_EQ(nullptr, CAreaLayer_toLayer(nullptr));
+    CAreaLayer_setGapColor(nullptr, 0);
     EXPECT_EQ(nullptr, CAxis_setTitle(nullptr, "t", "", 8, 0));
     EXPECT_EQ(nullptr, CAxis_addMark(nullptr, 1, 0, "", "", 8));
     EXPECT_EQ(0, CAxis_getAlignment(nullptr));
@@ -279,4 +300,83 @@ TEST(CApi, PlotHandlesConvertAlongTheirBases) {
     EXPECT_NE(nullptr, CPieChart_sector(pie, 2));
     EXPECT_EQ(nullptr, CPieChart_sector(pie, 3));
     CBaseChart_destroy(CPieChart_toBaseChart(pie));
+}
+
+namespace {
+
+const double kLineX[] = {0, 1, 2, 3, 4, 5};
+const double kLineA[] = {3, 7, kNoValue, 6, 9, 4};
+const double kLineB[] = {1, 2, 4, 3, 5, 6};
+const double kAreaData[] = {1, 1.5, 2, 1, 2.5, 2};
+
+std::vector<double> pointsOf(CLineObj *line) {
+    const double *data = nullptr;
+    int len = 0;
+    CLineObj_getPoints(line, &data, &len);
+    return std::vector<double>(data, data + len);
+}
+
+std::vector<double> pointsOf(LineObj *line) {
+    DoubleArray p = line->getPoints();
+    return std::vector<double>(p.data, p.data + p.len);
+}
+
+}  // namespace
+
+// A line chart made through the flat interface lays its lines out as the same
+// chart made on the engine; each layer kind is found behind its layer handle,
+// a scatter layer also as a line layer.
+TEST(CApi, LineChartLaysOutAsTheEngineDoes) {
+    CXYChart *xy = CXYChart_create(320, 200, 0xffffff, -16777216, 0);
+    CXYChart_setPlotArea(xy, 40, 20, 250, 150, 0xffffff, -1, -1, 0xc0c0c0, -16777216);
+    CLineLayer *lines = CXYChart_addLineLayer2(xy, kOverlay, 0);
+    CLayer *linesLayer = CLineLayer_toLayer(lines);
+    CLayer_setXData(linesLayer, kLineX, 6);
+    CLayer_addDataSet(linesLayer, kLineA, 6, 0x4a90d9, "a");
+    CLayer_addDataSet(linesLayer, kLineB, 6, 0xe4572e, "b");
+    CLineLayer_setGapColor(lines, kSameAsMainColor, 1);
+    CLineLayer_setFastLineMode(lines, false);
+    CAreaLayer *area = CXYChart_addAreaLayer(xy, kAreaData, 6, 0xcde4f7, "area", 0);
+    CAreaLayer_setGapColor(area, kTransparent);
+    CScatterLayer *dots = CXYChart_addScatterLayer(xy, kLineX, 6, kLineB, 6, "dots", 7, 9, -1, -1);
+    CLineLayer_setSymbolScale2(CScatterLayer_toLineLayer(dots), kLineA, 6, 0);
+
+    EXPECT_EQ(3, CXYChart_getLayerCount(xy));
+    EXPECT_EQ(lines, CLineLayer_fromLayer(CXYChart_getLayer(xy, 0)));
+    EXPECT_EQ(nullptr, CScatterLayer_fromLayer(CXYChart_getLayer(xy, 0)));
+    EXPECT_EQ(area, CAreaLayer_fromLayer(CXYChart_getLayer(xy, 1)));
+    EXPECT_EQ(nullptr, CLineLayer_fromLayer(CXYChart_getLayer(xy, 1)));
+    EXPECT_EQ(nullptr, CBarLayer_fromLayer(CXYChart_getLayer(xy, 1)));
+    CLayer *dotsLayer = CXYChart_getLayer(xy, 2);
+    EXPECT_EQ(dots, CScatterLayer_fromLayer(dotsLayer));
+    EXPECT_EQ(CScatterLayer_toLineLayer(dots), CLineLayer_fromLayer(dotsLayer));
+    EXPECT_EQ(dotsLayer, CScatterLayer_toLayer(dots));
+    EXPECT_EQ(dotsLayer, CLineLayer_toLayer(CScatterLayer_toLineLayer(dots)));
+    EXPECT_EQ(nullptr, CLineLayer_getLine(lines, 2));
+    EXPECT_TRUE(pointsOf(CLineLayer_getLine(lines, 0)).empty());
+
+    LayerKinds::install();
+    XYChart *e = XYChart::create(320, 200, 0xffffff, -16777216, 0);
+    e->setPlotArea(40, 20, 250, 150, 0xffffff, -1, -1, 0xc0c0c0, -16777216);
+    LineLayer *engineLines = e->addLineLayer2(kOverlay, 0);
+    engineLines->setXData(DoubleArray(kLineX, 6));
+    engineLines->addDataSet(DoubleArray(kLineA, 6), 0x4a90d9, "a");
+    engineLines->addDataSet(DoubleArray(kLineB, 6), 0xe4572e, "b");
+    e->addAreaLayer(DoubleArray(kAreaData, 6), 0xcde4f7, "area", 0);
+    e->addScatterLayer(DoubleArray(kLineX, 6), DoubleArray(kLineB, 6), "dots", 7, 9, -1, -1);
+    e->makeChart();
+
+    const char *png = nullptr;
+    int len = 0;
+    EXPECT_TRUE(CBaseChart_makeChart3(CXYChart_toBaseChart(xy), kPNG, &png, &len));
+    for (int set : {0, 1}) {
+        std::vector<double> points = pointsOf(CLineLayer_getLine(lines, set));
+        // Five points with a value, each an x and a y.
+        EXPECT_EQ(set == 0 ? 10u : 12u, points.size());
+        EXPECT_EQ(pointsOf(engineLines->getLine(set)), points);
+    }
+    EXPECT_EQ(pointsOf(CLineLayer_getLine(lines, 1)),
+              pointsOf(CLineLayer_getLine(CScatterLayer_toLineLayer(dots), 0)));
+    e->destroy();
+    CBaseChart_destroy(CXYChart_toBaseChart(xy));
 }

@@ -308,7 +308,7 @@ TEST_F(ListFixture, FaultsInACorruptedStream) {
 }
 
 TEST(MetaDrawListing, TablesAreIndexedByCode) {
-    for (unsigned op = 0; op <= kOpInitDynamicLayer; ++op) {
+    for (unsigned op = 0; op <= kOpMergeAtPoints; ++op) {
         ASSERT_NE(findMetaOpcode(op), nullptr);
         EXPECT_EQ(findMetaOpcode(op)->code, op);
         EXPECT_EQ(std::strlen(findMetaOpcode(op)->format), std::strlen(findMetaOpcode(op)->scaled));
@@ -318,7 +318,7 @@ TEST(MetaDrawListing, TablesAreIndexedByCode) {
         EXPECT_EQ(findMetaOpcode(op)->code, op);
         EXPECT_EQ(std::strlen(findMetaOpcode(op)->format), std::strlen(findMetaOpcode(op)->scaled));
     }
-    EXPECT_EQ(findMetaOpcode(kOpInitDynamicLayer + 1), nullptr);
+    EXPECT_EQ(findMetaOpcode(kOpMergeAtPoints + 1), nullptr);
     EXPECT_EQ(findMetaOpcode(kOpRectColor + 1), nullptr);
     for (unsigned t = 0; t < 3; ++t) EXPECT_EQ(findMetaPathType(t)->code, t);
     EXPECT_EQ(findMetaPathType(3), nullptr);

@@ -107,6 +107,11 @@ public:
         log("mergeWithScaling " + str(id) + " " + str(x) + " " + str(y) + " " + str(w) + " " +
             str(h) + " " + str(t));
     }
+    void mergeAtPoints(int id, int w, int h, IntArray points) override {
+        std::string s = "mergeAtPoints " + str(id) + " " + str(w) + " " + str(h);
+        for (int i = 0; i < points.len; ++i) s += " " + str(points.data[i]);
+        log(s);
+    }
     void mergeBitMap(int id, IntArray pixels, int width, int x, int y) override {
         log("mergeBitMap " + str(id) + " " + str(pixels.len) + " " + str(width) + " " + str(x) +
             " " + str(y));

@@ -108,6 +108,32 @@ TEST(AbcChart, XYPartsHaveOneWrapperEach) {
     delete c;
 }
 
+// Line, scatter and area layers get wrappers of their kind, a scatter layer's
+// being a line layer's too; a layer's line keeps one wrapper.
+TEST(AbcChart, LayerKindsHaveWrappersOfTheirKind) {
+    abc::XYChart *c = abc::XYChart::create(200, 100, 0xffffff, -16777216, 0);
+    const double data[] = {1, 3, 2};
+    abc::ScatterLayer *dots = c->addScatterLayer({3, data}, {3, data}, "dots", 1, 5, -1, -1);
+    abc::LineLayer *line = c->addLineLayer2(0, 0);
+    abc::AreaLayer *area = c->addAreaLayer({3, data}, 0xff0000, "area", 0);
+    ASSERT_NE(nullptr, dots);
+    ASSERT_NE(nullptr, line);
+    ASSERT_NE(nullptr, area);
+    EXPECT_EQ(dots, c->getLayer(0));
+    EXPECT_EQ(CScatterLayer_toLineLayer(dots->getScatterHandle()), dots->getLineHandle());
+    EXPECT_EQ(nullptr, dynamic_cast<abc::ScatterLayer *>(c->getLayer(1)));
+    EXPECT_EQ(line, dynamic_cast<abc::LineLayer *>(c->getLayer(1)));
+    EXPECT_EQ(area, c->getLayer(2));
+    EXPECT_EQ(nullptr, c->addLineLayer({3, data}, -1, "", 0)->getLine(1));
+    abc::LineObj *first = dots->getLine(0);
+    ASSERT_NE(nullptr, first);
+    EXPECT_EQ(first, dots->getLine(0));
+    EXPECT_EQ(0, first->getPoints().len);
+    EXPECT_NE(nullptr, c->makeChart());
+    EXPECT_EQ(6, first->getPoints().len);
+    delete c;
+}
+
 // The sectors of a pie keep their wrapper, also beyond a shorter data set.
 TEST(AbcChart, SectorsHaveOneWrapperEach) {
     abc::PieChart *c = abc::PieChart::create(200, 100, 0xffffff, -16777216, 0);

@@ -63,7 +63,7 @@ TEST_F(HostTest, ObjectsWithoutEngineObjectRaiseOnEveryMethod) {
             ++checked;
         }
     }
-    EXPECT_EQ(336, checked);
+    EXPECT_EQ(346, checked);
 }
 
 // Host arrays that claim more items than memory holds.  An allocation the

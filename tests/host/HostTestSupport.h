@@ -13,7 +13,7 @@
 // Symbols and texts are numbered by a counter of the process, and the plug-in
 // has its own: numbered in the order they first appear, listings compare.
 inline std::string renumbered(const std::string &listing) {
-    static const std::regex id("(DefineSymbol|MergeWithScaling|Text)\\((\\d+)");
+    static const std::regex id("(DefineSymbol|MergeWithScaling|MergeAtPoints|Text)\\((\\d+)");
     std::map<std::string, int> order;
     std::string out;
     auto last = listing.cbegin();

@@ -9,8 +9,8 @@
 #include "draw/canvas/DrawArea.h"
 #include "draw/pixel/ColorWords.h"
 #include "foundation/Constants.h"
-#include "layers/LayerKinds.h"
 #include "layers/bar/BarLayer.h"
+#include "tests/host/EngineXYCharts.h"
 #include "tests/host/HostTestSupport.h"
 #include "text/box/TextBox.h"
 
@@ -25,22 +25,11 @@ namespace {
 const char *const kQuarters[] = {"Q1", "Q2", "Q3", "Q4"};
 const double kNorth[] = {12, 18, 25, 21}, kSouth[] = {8, 11, -6, 14}, kGoal[] = {20, 24, 28, 30};
 
-std::string listingOf(BaseChart *c) {
-    MemBlock b = c->makeChart()->outAGF2();
-    return std::string(b.data ? b.data : "", b.len);
-}
-
 // The bar chart drawn straight on the engine, every default of the host
 // declarations written out, pixels scaled.
 std::string engineBars(double scale) {
     auto px = [scale](int v) { return (int)(v * scale); };
-    LayerKinds::install();
-    XYChart *c = XYChart::create(px(400), px(260), 0xf4f6fa, kTransparent, 0);
-    if (scale > 1)
-        for (Axis *a : {c->yAxis(), c->yAxis2(), c->xAxis(), c->xAxis2()}) {
-            a->setLabelStyle("", 8 * scale, kTextColor, 0);
-            a->setTickWidth((int)scale, -1);
-        }
+    XYChart *c = engineXYChart(400, 260, 0xf4f6fa, scale);
     c->addTitle("Sales", "", 12, kTextColor, kTransparent, kTransparent);
     PlotArea *plot = c->setPlotArea(px(50), px(40), px(300), px(180), 0xffffff, -1, 0xcccccc,
                                     0xc0c0c0, kTransparent);
@@ -64,9 +53,7 @@ std::string engineBars(double scale) {
     BarLayer *goals = c->addBarLayer(DoubleArray(kGoal, 4), 0xcccccc, "Goal", px(4));
     goals->setUseYAxis2(true);
     goals->setBarWidth(px(10), -1);
-    std::string listing = listingOf(c);
-    c->destroy();
-    return listing;
+    return engineListing(c);
 }
 
 }  // namespace
@@ -124,17 +111,11 @@ TEST_F(HostTest, ScaledXYChartsRaiseTheirAxisDefaults) {
     call(c, "setPlotArea", {I(20), I(5), I(70), I(35)});
     call(c, "addBarLayer", {host->doubles({3, 5})});
 
-    LayerKinds::install();
-    XYChart *e = XYChart::create(200, 100, kBackgroundColor, kTransparent, 0);
-    for (Axis *a : {e->yAxis(), e->yAxis2(), e->xAxis(), e->xAxis2()}) {
-        a->setLabelStyle("", 16, kTextColor, 0);
-        a->setTickWidth(2, -1);
-    }
+    XYChart *e = engineXYChart(100, 50, kBackgroundColor, 2);
     e->setPlotArea(40, 10, 140, 70, kTransparent, -1, -1, 0xc0c0c0, kTransparent);
     const double data[] = {3, 5};
     e->addBarLayer(DoubleArray(data, 2), -1, "", 0);
-    EXPECT_EQ(renumbered(listingOf(e)), renumbered(listing(call(c, "makeChart"))));
-    e->destroy();
+    EXPECT_EQ(renumbered(engineListing(e)), renumbered(listing(call(c, "makeChart"))));
 }
 
 // A standing axis is one object for the chart's life, whatever role swapXY

@@ -16,6 +16,9 @@ Layer *wrapAs(CLayer *layer, XYChart *chart) {
 // from another comes before it.  Any other layer gets a plain Layer.
 Layer *(*const kLayerKinds[])(CLayer *, XYChart *) = {
     &wrapAs<BarLayer, CBarLayer, &CBarLayer_fromLayer>,
+    &wrapAs<ScatterLayer, CScatterLayer, &CScatterLayer_fromLayer>,
+    &wrapAs<LineLayer, CLineLayer, &CLineLayer_fromLayer>,
+    &wrapAs<AreaLayer, CAreaLayer, &CAreaLayer_fromLayer>,
 };
 
 Layer *wrapLayer(CLayer *layer, XYChart *chart) {
@@ -33,10 +36,6 @@ XYChart *XYChart::create(int width, int height, int bgColor, int edgeColor, int 
 
 Layer *XYChart::layerOf(CLayer *h) {
     return layers.get(h, [this](CLayer *layer) { return wrapLayer(layer, this); });
-}
-
-BarLayer *XYChart::barLayerOf(CBarLayer *h) {
-    return dynamic_cast<BarLayer *>(layerOf(CBarLayer_toLayer(h)));
 }
 
 DataSet *XYChart::dataSetOf(CDataSet *h) {

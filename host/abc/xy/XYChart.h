@@ -5,10 +5,13 @@
 #include "host/abc/Views.h"
 #include "host/abc/chart/Axis.h"
 #include "host/abc/chart/BaseChart.h"
+#include "host/abc/xy/AreaLayer.h"
 #include "host/abc/xy/BarLayer.h"
 #include "host/abc/xy/DataSet.h"
 #include "host/abc/xy/Layer.h"
+#include "host/abc/xy/LineLayer.h"
 #include "host/abc/xy/PlotArea.h"
+#include "host/abc/xy/ScatterLayer.h"
 
 namespace abc {
 
@@ -66,14 +69,35 @@ public:
     void setTrimData(int startPos, int len) { CXYChart_setTrimData(xyChart, startPos, len); }
 
     BarLayer *addBarLayer(DoubleArray data, int color, const char *name, int depth) {
-        return barLayerOf(CXYChart_addBarLayer(xyChart, data.data, data.len, color, name, depth));
+        return kindOf<BarLayer>(
+            CXYChart_addBarLayer(xyChart, data.data, data.len, color, name, depth));
     }
     BarLayer *addBarLayer2(int dataCombineMethod, int depth) {
-        return barLayerOf(CXYChart_addBarLayer2(xyChart, dataCombineMethod, depth));
+        return kindOf<BarLayer>(CXYChart_addBarLayer2(xyChart, dataCombineMethod, depth));
     }
     BarLayer *addBarLayer3(DoubleArray data, IntArray colors, StringArray names, int depth) {
-        return barLayerOf(CXYChart_addBarLayer3(xyChart, data.data, data.len, colors.data,
-                                                colors.len, names.data, names.len, depth));
+        return kindOf<BarLayer>(CXYChart_addBarLayer3(xyChart, data.data, data.len, colors.data,
+                                                      colors.len, names.data, names.len, depth));
+    }
+    LineLayer *addLineLayer(DoubleArray data, int color, const char *name, int depth) {
+        return kindOf<LineLayer>(
+            CXYChart_addLineLayer(xyChart, data.data, data.len, color, name, depth));
+    }
+    LineLayer *addLineLayer2(int dataCombineMethod, int depth) {
+        return kindOf<LineLayer>(CXYChart_addLineLayer2(xyChart, dataCombineMethod, depth));
+    }
+    AreaLayer *addAreaLayer(DoubleArray data, int color, const char *name, int depth) {
+        return kindOf<AreaLayer>(
+            CXYChart_addAreaLayer(xyChart, data.data, data.len, color, name, depth));
+    }
+    AreaLayer *addAreaLayer2(int dataCombineMethod, int depth) {
+        return kindOf<AreaLayer>(CXYChart_addAreaLayer2(xyChart, dataCombineMethod, depth));
+    }
+    ScatterLayer *addScatterLayer(DoubleArray xData, DoubleArray yData, const char *name,
+                                  int symbol, int symbolSize, int fillColor, int edgeColor) {
+        return kindOf<ScatterLayer>(CXYChart_addScatterLayer(xyChart, xData.data, xData.len,
+                                                             yData.data, yData.len, name, symbol,
+                                                             symbolSize, fillColor, edgeColor));
     }
 
     Layer *getLayer(int i) { return layerOf(CXYChart_getLayer(xyChart, i)); }
@@ -93,7 +117,15 @@ public:
     DataSet *dataSetOf(CDataSet *h);
 
 private:
-    BarLayer *barLayerOf(CBarLayer *h);
+    // The wrapper of a layer just made, of its kind W.
+    template <class W, class H>
+    W *kindOf(H *h) {
+        return dynamic_cast<W *>(layerOf(layerHandleOf(h)));
+    }
+    static CLayer *layerHandleOf(CBarLayer *h) { return CBarLayer_toLayer(h); }
+    static CLayer *layerHandleOf(CLineLayer *h) { return CLineLayer_toLayer(h); }
+    static CLayer *layerHandleOf(CAreaLayer *h) { return CAreaLayer_toLayer(h); }
+    static CLayer *layerHandleOf(CScatterLayer *h) { return CScatterLayer_toLayer(h); }
 
     CXYChart *xyChart;
     UniqueObjContainer<Axis> axes;

@@ -101,6 +101,50 @@ const MethodEntry kMethods[] = {
     method("addBarLayer3(data() as double, colors() as color, names() as string, "
            "depth as integer = 0) as VSBarLayerXPG",
            fwd<&XY::addBarLayer3, Doubles, Colors, Strings, Px>),
+    method("addLineLayer(data() as double, colorvalue as integer = -1, name as string = \"\", "
+           "depth as integer = 0) as VSLineLayerXPG",
+           fwd<&XY::addLineLayer, Doubles, Color, Str, Px>),
+    method("addLineLayer(data() as double, colorvalue as color, name as string = \"\", "
+           "depth as integer = 0) as VSLineLayerXPG",
+           fwd<&XY::addLineLayer, Doubles, ColorC, Str, Px>),
+    method("addLineLayer(data as VSArrayXPG, colorvalue as integer = -1, name as string = \"\", "
+           "depth as integer = 0) as VSLineLayerXPG",
+           fwd<&XY::addLineLayer, ArrayValues, Color, Str, Px>),
+    method("addLineLayer(data as VSArrayXPG, colorvalue as color, name as string = \"\", "
+           "depth as integer = 0) as VSLineLayerXPG",
+           fwd<&XY::addLineLayer, ArrayValues, ColorC, Str, Px>),
+    method("addLineLayer2(dataCombineMethod as integer = 0, depth as integer = 0) "
+           "as VSLineLayerXPG", fwd<&XY::addLineLayer2, Int, Px>),
+    method("addAreaLayer(data() as double, colorvalue as integer = -1, name as string = \"\", "
+           "depth as integer = 0) as VSAreaLayerXPG",
+           fwd<&XY::addAreaLayer, Doubles, Color, Str, Px>),
+    method("addAreaLayer(data() as double, colorvalue as color, name as string = \"\", "
+           "depth as integer = 0) as VSAreaLayerXPG",
+           fwd<&XY::addAreaLayer, Doubles, ColorC, Str, Px>),
+    method("addAreaLayer(data as VSArrayXPG, colorvalue as integer = -1, name as string = \"\", "
+           "depth as integer = 0) as VSAreaLayerXPG",
+           fwd<&XY::addAreaLayer, ArrayValues, Color, Str, Px>),
+    method("addAreaLayer(data as VSArrayXPG, colorvalue as color, name as string = \"\", "
+           "depth as integer = 0) as VSAreaLayerXPG",
+           fwd<&XY::addAreaLayer, ArrayValues, ColorC, Str, Px>),
+    method("addAreaLayer2(dataCombineMethod as integer = 1, depth as integer = 0) "
+           "as VSAreaLayerXPG", fwd<&XY::addAreaLayer2, Int, Px>),
+    method("addScatterLayer(xData() as double, yData() as double, name as string = \"\", "
+           "symbol as integer = 1, symbolSize as integer = 5, fillColor as integer = -1, "
+           "edgeColor as integer = -1) as VSScatterLayerXPG",
+           fwd<&XY::addScatterLayer, Doubles, Doubles, Str, Int, Px, Color, Color>),
+    method("addScatterLayer(xData() as double, yData() as double, name as string, "
+           "symbol as integer, symbolSize as integer, fillColor as color, "
+           "edgeColor as integer = -1) as VSScatterLayerXPG",
+           fwd<&XY::addScatterLayer, Doubles, Doubles, Str, Int, Px, ColorC, Color>),
+    method("addScatterLayer(xData as VSArrayXPG, yData as VSArrayXPG, name as string = \"\", "
+           "symbol as integer = 1, symbolSize as integer = 5, fillColor as integer = -1, "
+           "edgeColor as integer = -1) as VSScatterLayerXPG",
+           fwd<&XY::addScatterLayer, ArrayValues, ArrayValues, Str, Int, Px, Color, Color>),
+    method("addScatterLayer(xData as VSArrayXPG, yData as VSArrayXPG, name as string, "
+           "symbol as integer, symbolSize as integer, fillColor as color, "
+           "edgeColor as integer = -1) as VSScatterLayerXPG",
+           fwd<&XY::addScatterLayer, ArrayValues, ArrayValues, Str, Int, Px, ColorC, Color>),
     method("getLayer(i as integer) as VSLayerXPG", fwd<&XY::getLayer, Int>),
     method("getLayerByZ(i as integer) as VSLayerXPG", fwd<&XY::getLayerByZ, Int>),
     method("getLayerCount() as integer", fwd<&XY::getLayerCount>),

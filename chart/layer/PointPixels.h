@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cmath>
+
+#include "chart/layer/AxisPixels.h"
+#include "chart/layer/LayerImpl.h"
+
+// The pixels of one data set's points in layer coordinates (x along the x
+// axis, y along the value axis), where a layer of lines or areas draws them:
+// the value, or under kStack and kPercentage the top of the point's part of
+// its stack, on the axis of the set (of its group's first set when stacked),
+// the set's slice of a kDepth layer moved back.  Walks over large data read
+// it once a point: the plain case is inline and reads the arrays directly.
+class PointPixels {
+public:
+    // With floor, the points are where each point's part starts instead
+    // (LayerImpl::floorOf): the lower edge of an area's band.
+    PointPixels(const LayerImpl &layer, int dataSet, bool floor = false);
+
+    // False for a point without both values.  Pixels beyond the reach of any
+    // canvas are held at its edge.
+    bool pixel(int i, double *x, double *y) const {
+        if (!direct || i >= count) return anyPixel(i, x, y);
+        double v = values[i];
+        if (v == kNoValue) return false;
+        if (positions) {
+            if (i >= positionCount || positions[i] == kNoValue) return false;
+            *x = held(xAxis.at(positions[i]) + shiftX);
+        } else {
+            *x = held(firstX + i * stepX + shiftX);
+        }
+        *y = held(yAxis.at(v) - shiftY);
+        return !std::isnan(*x) && !std::isnan(*y);
+    }
+    // The value the point shows on its axis (its part's top in a stack, or
+    // its floor).
+    double valueAt(int i) const;
+    const AxisPixels &xPixels() const { return xAxis; }
+    const AxisPixels &yPixels() const { return yAxis; }
+
+    static constexpr double kFarPixel = 1073741823.0;
+
+private:
+    void spreadEvenly();
+    // Any point, through the layer: stacks, floors, x ranges, aligned layers.
+    bool anyPixel(int i, double *x, double *y) const;
+    static double held(double v) {
+        return v < -kFarPixel ? -kFarPixel : v > kFarPixel ? kFarPixel : v;
+    }
+
+    const LayerImpl &layer;
+    int dataSet;
+    bool floor;
+    const double *values;
+    int count;
+    // The plain case: the set's own values, no layer to align with, and x
+    // values given one by one or spread evenly over a linear axis (then the
+    // pixel of point i is firstX + i * stepX).
+    bool direct;
+    const double *positions;
+    int positionCount;
+    double firstX;
+    double stepX;
+    AxisPixels xAxis;
+    AxisPixels yAxis;
+    double shiftX;
+    double shiftY;
+};
