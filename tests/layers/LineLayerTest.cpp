@@ -15,19 +15,6 @@ LineLayer *addGapLine(XYChartImpl *chart) {
     return layer;
 }
 
-// The texts drawn inside the plot of newUnitChart: the layers' labels.
-std::vector<TextAt> plotTexts(DrawArea *d) {
-    std::vector<TextAt> texts;
-    std::regex text("^Text\\(\\d+, \\([^)]*\\), (-?\\d+), (-?\\d+),");
-    for (const std::string &line : listingLines(d)) {
-        std::smatch m;
-        if (!std::regex_search(line, m, text)) continue;
-        TextAt at = {std::stoi(m[1]), std::stoi(m[2])};
-        if (at.x >= 40 && at.y < 218) texts.push_back(at);
-    }
-    return texts;
-}
-
 }  // namespace
 
 // Two missing points in a row make one gap from (100, 200) to (250, 180):

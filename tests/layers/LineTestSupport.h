@@ -1,5 +1,6 @@
 #pragma once
 
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -39,4 +40,17 @@ inline int countLinesStartingWith(const std::vector<std::string> &lines, const s
     int n = 0;
     for (const std::string &line : lines) n += line.rfind(start, 0) == 0;
     return n;
+}
+
+// The texts drawn inside the plot of newUnitChart: the layers' labels.
+inline std::vector<TextAt> plotTexts(DrawArea *d) {
+    std::vector<TextAt> texts;
+    std::regex text("^Text\\(\\d+, \\([^)]*\\), (-?\\d+), (-?\\d+),");
+    for (const std::string &line : listingLines(d)) {
+        std::smatch m;
+        if (!std::regex_search(line, m, text)) continue;
+        TextAt at = {std::stoi(m[1]), std::stoi(m[2])};
+        if (at.x >= 40 && at.y < 218) texts.push_back(at);
+    }
+    return texts;
 }
