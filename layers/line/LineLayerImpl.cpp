@@ -109,7 +109,10 @@ void LineLayerImpl::createLineObj(int dataSet, MultiLine &line) {
     bool reversed = xAxisImpl()->isReversed();
     if (fastLineMode && LineWalk::takesColumns(end - first, axisPixels())) {
         line.reserve(4 * (size_t)(axisPixels() + 2));
-        LineWalk::columns(pixels, first, end, reversed, line);
+        if (!reversed && pixels.isEvenlySpread())
+            LineWalk::evenColumns(pixels, first, end, line);
+        else
+            LineWalk::columns(pixels, first, end, reversed, line);
     } else {
         line.reserve(end - first);
         LineWalk::plain(pixels, first, end, reversed, line);
@@ -137,8 +140,7 @@ void LineLayerImpl::paintLine(int dataSet, LayerPainter &painter) {
 
 // Segments that meet go to the canvas one after the other: the canvas joins
 // them into one poly-line and mitres the joints.
-void LineLayerImpl::paintFlat(const MultiLine &line, int color, int width,
-                              LayerPainter &painter) {
+void LineLayerImpl::paintFlat(const MultiLine &line, int color, int width, LayerPainter &painter) {
     int bridgeWidth = gapWidth < 0 ? width : gapWidth;
     bool open = false;
     for (int k = 1; k < line.size(); ++k) {
@@ -204,9 +206,16 @@ void LineLayerImpl::collectLabelSpots(std::vector<LabelSpot> &spots) {
         int x, y, w, h;
         for (int i : labelledPoints(s)) {
             if (!symbols.at(i, painter, &x, &y, &w, &h)) continue;
-            LabelSpot spot = {s, i, dataSetAt(s)->getGroupNo(), false, dataSetAt(s)->valueAt(i),
-                              x - w / 2, y - h / 2, x - w / 2 + std::max(w - 1, 0),
-                              y - h / 2 + std::max(h - 1, 0), isSwapped() ? kRight : kTop};
+            LabelSpot spot = {s,
+                              i,
+                              dataSetAt(s)->getGroupNo(),
+                              false,
+                              dataSetAt(s)->valueAt(i),
+                              x - w / 2,
+                              y - h / 2,
+                              x - w / 2 + std::max(w - 1, 0),
+                              y - h / 2 + std::max(h - 1, 0),
+                              isSwapped() ? kRight : kTop};
             spot.outside = true;
             spots.push_back(spot);
         }
@@ -225,8 +234,8 @@ void LineLayerImpl::symbolHotSpots(int dataSet, const LayerPainter &painter,
     for (int i = firstPoint(); i < endPoint(); ++i) {
         if (!symbols.at(i, painter, &x, &y, &w, &h)) continue;
         w = std::max(w, imageMapWidth), h = std::max(h, imageMapWidth);
-        spots.push_back(HotSpot{dataSet, i, {x - w / 2, y - h / 2, x - w / 2 + w - 1,
-                                             y - h / 2 + h - 1}});
+        spots.push_back(
+            HotSpot{dataSet, i, {x - w / 2, y - h / 2, x - w / 2 + w - 1, y - h / 2 + h - 1}});
     }
 }
 

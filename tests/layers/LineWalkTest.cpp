@@ -215,3 +215,37 @@ TEST(LineWalk, UnreachablePixelsBreakTheLine) {
     reducer.finish();
     EXPECT_EQ(storedPoints(&line), (std::vector<std::pair<int, bool>>{{0, true}, {3, false}}));
 }
+
+// Points at evenly spread x take the walk that reads each column's values by
+// their index range: it keeps the very points the column walk keeps, missing
+// values, columns of one point and points beyond the data included.
+TEST(LineWalk, EvenlySpreadPointsKeepWhatTheColumnWalkKeeps) {
+    for (int n : {700, 5000, 200000}) {
+        std::vector<double> y = randomWalk(n, n);
+        for (int i = n / 3; i < n / 3 + 7; ++i) y[i] = kNoValue;
+        y[n / 2] = kNoValue;
+        Owned<XYChartImpl> chart(newWideChart());
+        LineLayer *layer = chart->addLineLayer(values(y), 0x000080, "", 0);
+        layer->setXData2(0, n - 1);
+        impl(layer)->lineOf(0);
+        PointPixels pixels(*impl(layer), 0);
+        ASSERT_TRUE(pixels.isEvenlySpread());
+        for (int end : {n, n + 3}) {
+            MultiLine general, even;
+            LineWalk::columns(pixels, 0, end, false, general);
+            LineWalk::evenColumns(pixels, 0, end, even);
+            ASSERT_EQ(storedPoints(&even), storedPoints(&general)) << n;
+            for (int k = 0; k < even.size(); ++k) {
+                EXPECT_EQ(even.at(k).x, general.at(k).x);
+                EXPECT_EQ(even.at(k).y, general.at(k).y);
+            }
+        }
+    }
+    // A log axis reads every point.
+    Owned<XYChartImpl> chart(newWideChart());
+    std::vector<double> y(3000, 5.0);
+    LineLayer *layer = chart->addLineLayer(values(y), 0x000080, "", 0);
+    chart->yAxis()->setLogScale3("");
+    impl(layer)->lineOf(0);
+    EXPECT_FALSE(PointPixels(*impl(layer), 0).isEvenlySpread());
+}
