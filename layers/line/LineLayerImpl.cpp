@@ -109,10 +109,7 @@ void LineLayerImpl::createLineObj(int dataSet, MultiLine &line) {
     bool reversed = xAxisImpl()->isReversed();
     if (fastLineMode && LineWalk::takesColumns(end - first, axisPixels())) {
         line.reserve(4 * (size_t)(axisPixels() + 2));
-        if (!reversed && pixels.isEvenlySpread())
-            LineWalk::evenColumns(pixels, first, end, line);
-        else
-            LineWalk::columns(pixels, first, end, reversed, line);
+        LineWalk::columnsOf(pixels, first, end, reversed, line);
     } else {
         line.reserve(end - first);
         LineWalk::plain(pixels, first, end, reversed, line);

@@ -45,6 +45,16 @@ public:
         reducer.finish();
     }
 
+    // The column walk of a data set's points: by index ranges where they are
+    // evenly spread and go forward, else point by point.
+    static void columnsOf(const PointPixels &source, int first, int end, bool reversed,
+                          MultiLine &line) {
+        if (!reversed && source.isEvenlySpread())
+            evenColumns(source, first, end, line);
+        else
+            columns(source, first, end, reversed, line);
+    }
+
     // The column walk of points at evenly spread x pixels (PointPixels::
     // isEvenlySpread), first to end - 1: each column's points are found by
     // their index range, and only its first, lowest, highest and last values

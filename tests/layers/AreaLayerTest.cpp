@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "chart/symbol/ShapeWords.h"
 #include "tests/layers/LineTestSupport.h"
 
@@ -114,4 +116,22 @@ TEST(AreaLayer, PercentageBandsReachTheTop) {
     EXPECT_NEAR(floor->at(0).y, 220 - 50, 0.5);
     EXPECT_NEAR(floor->at(1).y, 220 - 150, 0.5);
     EXPECT_NEAR(impl(layer)->floorOf(0)->at(2).y, 220, 0.5);
+}
+
+// Many points: the top keeps the shape of each pixel column as a line does,
+// and the floor has a point under each point of the top.
+TEST(AreaLayer, ManyPointsAreReducedAsLinesAre) {
+    Owned<XYChartImpl> chart(newBarChart());
+    std::vector<double> v(100000);
+    for (size_t i = 0; i < v.size(); ++i) v[i] = 50 + 40 * std::sin(i * 0.001) + (i % 7);
+    AreaLayer *layer = chart->addAreaLayer(values(v), 0xFF0000, "a", 0);
+    const MultiLine *top = impl(layer)->topOf(0), *floor = impl(layer)->floorOf(0);
+    EXPECT_LE(top->size(), 4 * 301);
+    EXPECT_GT(top->size(), 300);
+    ASSERT_EQ(floor->size(), top->size());
+    for (int k = 0; k < top->size(); ++k) {
+        EXPECT_EQ(floor->at(k).x, top->at(k).x);
+        EXPECT_EQ(floor->at(k).index, top->at(k).index);
+    }
+    EXPECT_EQ(chart->makeChart()->getPixel(200, 215), 0xFF0000);
 }
