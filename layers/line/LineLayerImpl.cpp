@@ -78,13 +78,30 @@ MultiLine *LineLayerImpl::lineAt(int dataSet) {
 }
 
 LineObj *LineLayerImpl::getLine(int dataSet) {
-    return lineAt(dataSet);
+    return builtLine(dataSet);
 }
 
 const MultiLine *LineLayerImpl::lineOf(int dataSet) {
     getChart()->layout();
     ensurePrepared();
-    return lineAt(dataSet);
+    return builtLine(dataSet);
+}
+
+MultiLine *LineLayerImpl::builtLine(int dataSet) {
+    MultiLine *line = lineAt(dataSet);
+    if (line && (size_t)dataSet < unbuilt.size() && unbuilt[dataSet]) {
+        unbuilt[dataSet] = false;
+        createLineObj(dataSet, *line);
+        line->layout(isSwapped(), getOffsetX(), getOffsetY());
+    }
+    return line;
+}
+
+// A set whose segments and gap bridges draw nothing (a scatter) needs its
+// line only when asked for it.
+bool LineLayerImpl::drawsLine(int dataSet) const {
+    int width = lineWidthOf(dataSet);
+    return width > 0 || (gapColor != kTransparent && (gapWidth < 0 ? width : gapWidth) > 0);
 }
 
 int LineLayerImpl::axisPixels() const {
@@ -95,10 +112,12 @@ int LineLayerImpl::axisPixels() const {
 
 void LineLayerImpl::onPrepare() {
     releaseClipper();
+    unbuilt.assign(countDataSets(), false);
     for (int s = 0; s < countDataSets(); ++s) {
         MultiLine *line = lineAt(s);
         line->clear();
-        if (getDataCount() > 0) createLineObj(s, *line);
+        unbuilt[s] = getDataCount() > 0 && !drawsLine(s);
+        if (getDataCount() > 0 && !unbuilt[s]) createLineObj(s, *line);
         line->layout(isSwapped(), getOffsetX(), getOffsetY());
     }
 }

@@ -69,6 +69,9 @@ TEST(LineLayer, WidthZeroDrawsTheSymbolsAlone) {
     EXPECT_GE(lineWith(lines, ", 9, 9, [46, 206, 96, 196, 146, 176])"), 0);
     EXPECT_EQ(countLinesStartingWith(lines, "MultiLine("), 0);
     EXPECT_EQ(impl(layer)->lineWidthOf(0), 0);
+    // The line that draws nothing is made when it is asked for.
+    EXPECT_EQ(impl(layer)->lineOf(0)->size(), 3);
+    EXPECT_EQ(layer->getLine(0)->getPoints().len, 6);
 }
 
 // Sizes per point: lengths along the x or the y axis (one unit a pixel
