@@ -18,6 +18,7 @@
 #include "draw/pixel/ColorWords.h"
 #include "foundation/Constants.h"
 #include "fuzz/ChartFuzz.h"
+#include "fuzz/LayerFuzz.h"
 #include "layers/LayerKinds.h"
 #include "layers/bar/BarLayer.h"
 #include "text/box/TextBox.h"
@@ -56,11 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
         splitTexts(data + kControl + n, size - kControl - n, kMaxTexts, kMaxText);
     auto text = [&](size_t i) { return texts[i % texts.size()].c_str(); };
 
-    LayerKinds::install();
-    XYChart *chart = XYChart::create(c[0] % 400 + 1, c[1] % 300 + 1, 0xFFFFFF, kTransparent, 0);
-    chart->swapXY(c[3] & 1);
-    chart->yAxis()->setReverse(c[3] & 2);
-    chart->xAxis()->setReverse(c[3] & 4);
+    XYChart *chart = newLayerFuzzChart(c);
     if (c[3] & 8) chart->addLegend(5, 5, c[3] & 16, "", 8);
     if (c[3] & 32) chart->setTrimData(c[4] % 8, c[5] % 40);
     if (c[3] & 64) {

@@ -100,13 +100,14 @@ void DataLabels::makeLabel(const LabelSpot &spot) {
     box->setAlignment(boxAlignment);
     box->setAnchored(true);
     box->setZOrder(style->getZOrder());
-    if (spot.keepInside) keepInside(box, spot, x, boxAlignment);
+    if (spot.keepInside) keepInside(box, spot, x, y, boxAlignment);
     labels.push_back(new Label(box, mainColor));
 }
 
 // Alignments 1 to 9 in columns: the box starts at its anchor, is centred on
 // it, or ends at it.
-void DataLabels::keepInside(TextBoxImpl2 *box, const LabelSpot &spot, int x, int alignment) const {
+void DataLabels::keepInside(TextBoxImpl2 *box, const LabelSpot &spot, int x, int y,
+                            int alignment) const {
     if (alignment < 1 || alignment > 9) return;
     box->layout(layer->getDrawArea());
     int width = box->getWidth(), column = (alignment - 1) % 3;
@@ -117,7 +118,9 @@ void DataLabels::keepInside(TextBoxImpl2 *box, const LabelSpot &spot, int x, int
     else if (left + width > spot.insideRight && column < 2)
         moved = alignment + 2 - column;
     if (moved == alignment) return;
+    // Laying out moved the box from its anchor: back to it.
     box->resetLayout();
+    box->setPos(x, y);
     box->setAlignment(moved);
 }
 

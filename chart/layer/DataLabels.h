@@ -34,7 +34,7 @@ private:
     TextBoxImpl *styleOf(const LabelSpot &spot, const char **templateText) const;
     void makeLabel(const LabelSpot &spot);
     // Moves the alignment of a label near a side of the spot's range inward.
-    void keepInside(TextBoxImpl2 *box, const LabelSpot &spot, int x, int alignment) const;
+    void keepInside(TextBoxImpl2 *box, const LabelSpot &spot, int x, int y, int alignment) const;
 
     class Label;
 

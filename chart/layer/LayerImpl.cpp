@@ -446,6 +446,9 @@ int LayerImpl::keyLineWidth(int dataSet) const {
 
 void LayerImpl::preLayout(int) {
     dataChanged();
+    // Percentages end at 100.
+    if (dataCombineMethod == kPercentage)
+        for (int s = 0; s < countDataSets(); ++s) axisOf(s)->setDefaultExtensions(0, 0, 0);
 }
 
 void LayerImpl::setSize(int x, int y, int width, int height, bool swapXY) {

@@ -21,7 +21,7 @@ PointPixels::PointPixels(const LayerImpl &layer, int dataSet, bool floor)
     : layer(layer),
       dataSet(dataSet),
       floor(floor),
-      values(nullptr),
+      ownValues(nullptr),
       count(0),
       direct(false),
       positions(layer.getXValues().data()),
@@ -33,7 +33,7 @@ PointPixels::PointPixels(const LayerImpl &layer, int dataSet, bool floor)
       shiftX(0),
       shiftY(0) {
     if (DataSetImpl *set = layer.dataSetAt(dataSet)) {
-        values = set->values().data();
+        ownValues = set->values().data();
         count = set->size();
     }
     if (positionCount == 0) {
@@ -71,5 +71,5 @@ bool PointPixels::anyPixel(int i, double *x, double *y) const {
 double PointPixels::valueAt(int i) const {
     if (floor) return layer.floorOf(dataSet, i);
     if (isStacked(layer)) return layer.positionOf(dataSet, i);
-    return i >= 0 && i < count ? values[i] : kNoValue;
+    return i >= 0 && i < count ? ownValues[i] : kNoValue;
 }

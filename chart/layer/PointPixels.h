@@ -21,17 +21,26 @@ public:
     // canvas are held at its edge.
     bool pixel(int i, double *x, double *y) const {
         if (!direct || i >= count) return anyPixel(i, x, y);
-        double v = values[i];
+        double v = ownValues[i];
         if (v == kNoValue) return false;
         if (positions) {
             if (i >= positionCount || positions[i] == kNoValue) return false;
             *x = held(xAxis.at(positions[i]) + shiftX);
         } else {
-            *x = held(firstX + i * stepX + shiftX);
+            *x = xPixelOf(i);
         }
-        *y = held(yAxis.at(v) - shiftY);
+        *y = yPixelOf(v);
         return !std::isnan(*x) && !std::isnan(*y);
     }
+    // Whether the points are the set's own values at x pixels that rise by
+    // the same step from one to the next, on a linear value axis: then the
+    // pixel of point i is (xPixelOf(i), yPixelOf(values()[i])) for i below
+    // valueCount(), and a larger value is always further along the axis.
+    bool isEvenlySpread() const { return direct && !positions && yAxis.isAffine(); }
+    double xPixelOf(int i) const { return held(firstX + i * stepX + shiftX); }
+    double yPixelOf(double value) const { return held(yAxis.at(value) - shiftY); }
+    const double *values() const { return ownValues; }
+    int valueCount() const { return count; }
     // The value the point shows on its axis (its part's top in a stack, or
     // its floor).
     double valueAt(int i) const;
@@ -51,7 +60,7 @@ private:
     const LayerImpl &layer;
     int dataSet;
     bool floor;
-    const double *values;
+    const double *ownValues;
     int count;
     // The plain case: the set's own values, no layer to align with, and x
     // values given one by one or spread evenly over a linear axis (then the

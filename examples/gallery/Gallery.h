@@ -14,6 +14,12 @@ struct GallerySample {
 
 std::vector<GallerySample> &gallerySamples();
 
+class BaseChart;
+
+// Writes the chart into the file, in the format of its extension, and
+// destroys it; false for a null chart or a failed write.
+bool saveChart(BaseChart *chart, const std::string &path);
+
 // Writes the output of the reference workload of that name (bench/workloads),
 // so that a sample shows the picture as it is timed.
 bool saveWorkload(const char *name, const std::string &path);

@@ -110,7 +110,7 @@ void AreaLayerImpl::createBand(int dataSet, Band &band) {
     int left, upper, right, lower;
     getPlotRect(&left, &upper, &right, &lower);
     if (LineWalk::takesColumns(end - first, isSwapped() ? lower - upper : right - left))
-        LineWalk::columns(top, first, end, false, band.top);
+        LineWalk::columnsOf(top, first, end, false, band.top);
     else
         LineWalk::plain(top, first, end, false, band.top);
     band.floor.reserve(band.top.size());
@@ -174,8 +174,8 @@ void AreaLayerImpl::fillPolygon(const std::vector<double> &x, const std::vector<
 }
 
 // The tops forward, then the floors backward.
-void AreaLayerImpl::fillRuns(const Band &band, const Runs &runs, size_t from, size_t to,
-                             int color, LayerPainter &painter) {
+void AreaLayerImpl::fillRuns(const Band &band, const Runs &runs, size_t from, size_t to, int color,
+                             LayerPainter &painter) {
     std::vector<double> x, y;
     for (size_t r = from; r < to; ++r)
         for (int k = runs[r].first; k < runs[r].second; ++k)

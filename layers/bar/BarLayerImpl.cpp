@@ -103,9 +103,6 @@ void BarLayerImpl::preLayout(int length) {
         x->setDefaultExtensions(0, 0, 0);
         x->setDefaultRounding(0, 0);
     }
-    // Percentages end at 100.
-    if (getCombineMethod() == kPercentage)
-        for (int s = 0; s < countDataSets(); ++s) axisOf(s)->setDefaultExtensions(0, 0, 0);
 }
 
 double BarLayerImpl::spacing() const {

@@ -20,10 +20,7 @@ public:
             gap();
             return;
         }
-        // floor(0.5 + x) without a call: x is well inside the range here.
-        double shifted = 0.5 + x;
-        long long c = (long long)shifted;
-        c -= shifted < c;
+        long long c = columnOf(x);
         ++order;
         if (!open || c != column) {
             startColumn(c, x, y, index);
@@ -33,6 +30,13 @@ public:
         if (y > high.y) high = p;
         if (y < low.y) low = p;
         last = p;
+    }
+    // The column of a pixel x: floor(0.5 + x) without a call, for x well
+    // inside the range of long long.
+    static long long columnOf(double x) {
+        double shifted = 0.5 + x;
+        long long c = (long long)shifted;
+        return c - (shifted < c);
     }
     // A missing point: the column so far is stored and a gap follows it.
     void gap();

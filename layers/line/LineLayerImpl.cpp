@@ -78,13 +78,30 @@ MultiLine *LineLayerImpl::lineAt(int dataSet) {
 }
 
 LineObj *LineLayerImpl::getLine(int dataSet) {
-    return lineAt(dataSet);
+    return builtLine(dataSet);
 }
 
 const MultiLine *LineLayerImpl::lineOf(int dataSet) {
     getChart()->layout();
     ensurePrepared();
-    return lineAt(dataSet);
+    return builtLine(dataSet);
+}
+
+MultiLine *LineLayerImpl::builtLine(int dataSet) {
+    MultiLine *line = lineAt(dataSet);
+    if (line && (size_t)dataSet < unbuilt.size() && unbuilt[dataSet]) {
+        unbuilt[dataSet] = false;
+        createLineObj(dataSet, *line);
+        line->layout(isSwapped(), getOffsetX(), getOffsetY());
+    }
+    return line;
+}
+
+// A set whose segments and gap bridges draw nothing (a scatter) needs its
+// line only when asked for it.
+bool LineLayerImpl::drawsLine(int dataSet) const {
+    int width = lineWidthOf(dataSet);
+    return width > 0 || (gapColor != kTransparent && (gapWidth < 0 ? width : gapWidth) > 0);
 }
 
 int LineLayerImpl::axisPixels() const {
@@ -95,10 +112,12 @@ int LineLayerImpl::axisPixels() const {
 
 void LineLayerImpl::onPrepare() {
     releaseClipper();
+    unbuilt.assign(countDataSets(), false);
     for (int s = 0; s < countDataSets(); ++s) {
         MultiLine *line = lineAt(s);
         line->clear();
-        if (getDataCount() > 0) createLineObj(s, *line);
+        unbuilt[s] = getDataCount() > 0 && !drawsLine(s);
+        if (getDataCount() > 0 && !unbuilt[s]) createLineObj(s, *line);
         line->layout(isSwapped(), getOffsetX(), getOffsetY());
     }
 }
@@ -109,7 +128,7 @@ void LineLayerImpl::createLineObj(int dataSet, MultiLine &line) {
     bool reversed = xAxisImpl()->isReversed();
     if (fastLineMode && LineWalk::takesColumns(end - first, axisPixels())) {
         line.reserve(4 * (size_t)(axisPixels() + 2));
-        LineWalk::columns(pixels, first, end, reversed, line);
+        LineWalk::columnsOf(pixels, first, end, reversed, line);
     } else {
         line.reserve(end - first);
         LineWalk::plain(pixels, first, end, reversed, line);
@@ -137,8 +156,7 @@ void LineLayerImpl::paintLine(int dataSet, LayerPainter &painter) {
 
 // Segments that meet go to the canvas one after the other: the canvas joins
 // them into one poly-line and mitres the joints.
-void LineLayerImpl::paintFlat(const MultiLine &line, int color, int width,
-                              LayerPainter &painter) {
+void LineLayerImpl::paintFlat(const MultiLine &line, int color, int width, LayerPainter &painter) {
     int bridgeWidth = gapWidth < 0 ? width : gapWidth;
     bool open = false;
     for (int k = 1; k < line.size(); ++k) {
@@ -204,9 +222,16 @@ void LineLayerImpl::collectLabelSpots(std::vector<LabelSpot> &spots) {
         int x, y, w, h;
         for (int i : labelledPoints(s)) {
             if (!symbols.at(i, painter, &x, &y, &w, &h)) continue;
-            LabelSpot spot = {s, i, dataSetAt(s)->getGroupNo(), false, dataSetAt(s)->valueAt(i),
-                              x - w / 2, y - h / 2, x - w / 2 + std::max(w - 1, 0),
-                              y - h / 2 + std::max(h - 1, 0), isSwapped() ? kRight : kTop};
+            LabelSpot spot = {s,
+                              i,
+                              dataSetAt(s)->getGroupNo(),
+                              false,
+                              dataSetAt(s)->valueAt(i),
+                              x - w / 2,
+                              y - h / 2,
+                              x - w / 2 + std::max(w - 1, 0),
+                              y - h / 2 + std::max(h - 1, 0),
+                              isSwapped() ? kRight : kTop};
             spot.outside = true;
             spots.push_back(spot);
         }
@@ -225,8 +250,8 @@ void LineLayerImpl::symbolHotSpots(int dataSet, const LayerPainter &painter,
     for (int i = firstPoint(); i < endPoint(); ++i) {
         if (!symbols.at(i, painter, &x, &y, &w, &h)) continue;
         w = std::max(w, imageMapWidth), h = std::max(h, imageMapWidth);
-        spots.push_back(HotSpot{dataSet, i, {x - w / 2, y - h / 2, x - w / 2 + w - 1,
-                                             y - h / 2 + h - 1}});
+        spots.push_back(
+            HotSpot{dataSet, i, {x - w / 2, y - h / 2, x - w / 2 + w - 1, y - h / 2 + h - 1}});
     }
 }
 

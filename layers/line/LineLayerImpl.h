@@ -48,6 +48,9 @@ protected:
 
 private:
     MultiLine *lineAt(int dataSet);
+    // The line of a set, made now if layout left it for later.
+    MultiLine *builtLine(int dataSet);
+    bool drawsLine(int dataSet) const;
     // Fills the data set's line by the plain walk or the column walk.
     void createLineObj(int dataSet, MultiLine &line);
     // The number of pixels along the x axis.
@@ -65,5 +68,7 @@ private:
     bool fastLineMode;
     SymbolSizes symbolSizes;
     std::vector<MultiLine *> lines;
+    // Per set: the line waits until it is asked for.
+    std::vector<bool> unbuilt;
     ClipChain *clipper;
 };

@@ -11,6 +11,14 @@ namespace {
 // More cmap segments than this would overflow the table's 16-bit length.
 const size_t kMaxSegments = 8000;
 
+// Flags of a component of a composite glyph.
+const unsigned kWordArguments = 0x0001;
+const unsigned kScale = 0x0008;
+const unsigned kMoreComponents = 0x0020;
+const unsigned kXYScale = 0x0040;
+const unsigned kTwoByTwo = 0x0080;
+const unsigned kHasInstructions = 0x0100;
+
 typedef std::vector<unsigned char> Bytes;
 
 void put16(Bytes &b, unsigned v) {
@@ -100,24 +108,80 @@ std::vector<unsigned char> TrueTypeSubset::cmapOf(const std::map<int, int> &char
     return b;
 }
 
+// The hints of a glyph go with the font programs they call, which the subset
+// leaves out: a simple glyph keeps its contours with no instructions, a
+// composite its components without the flag that says instructions follow.
+std::vector<unsigned char> TrueTypeSubset::outlineWithoutHints(const unsigned char *g,
+                                                               size_t size) {
+    Bytes out(g, g + size);
+    if (size < 10) return out;
+    int contours = (int16_t)(g[0] << 8 | g[1]);
+    if (contours >= 0) {
+        size_t at = 10 + 2 * (size_t)contours;
+        if (at + 2 > size) return out;
+        size_t hints = (size_t)(g[at] << 8 | g[at + 1]);
+        if (at + 2 + hints > size) return out;
+        out.erase(out.begin() + at + 2, out.begin() + at + 2 + hints);
+        set16(out, at, 0);
+        return out;
+    }
+    size_t at = 10;
+    for (;;) {
+        if (at + 4 > size) return out;
+        unsigned flags = g[at] << 8 | g[at + 1];
+        set16(out, at, flags & ~kHasInstructions);
+        at += 4 + (flags & kWordArguments ? 4 : 2) +
+              (flags & kTwoByTwo  ? 8
+               : flags & kXYScale ? 4
+               : flags & kScale   ? 2
+                                  : 0);
+        if (!(flags & kMoreComponents)) break;
+    }
+    if (at <= size) out.resize(at);
+    return out;
+}
+
+// The metrics of the glyphs up to the last one kept: the long metrics the
+// font has among them, then the side bearings of the rest.
+std::vector<unsigned char> TrueTypeSubset::metricsOf(const TrueTypeFile &font, int glyphCount,
+                                                     Bytes &hhea) {
+    Bytes hmtx = copyOf(font, "hmtx");
+    if (hhea.size() < 36) return hmtx;
+    int longMetrics = hhea[34] << 8 | hhea[35];
+    int kept = std::min(longMetrics, glyphCount);
+    size_t bearingsAt = 4 * (size_t)longMetrics;
+    size_t bearings = 2 * (size_t)(glyphCount - kept);
+    if (bearingsAt + bearings > hmtx.size()) return hmtx;
+    Bytes out(hmtx.begin(), hmtx.begin() + 4 * (size_t)kept);
+    out.insert(out.end(), hmtx.begin() + bearingsAt, hmtx.begin() + bearingsAt + bearings);
+    set16(hhea, 34, kept);
+    return out;
+}
+
 std::vector<unsigned char> TrueTypeSubset::build(const TrueTypeFile &font,
                                                  const std::set<int> &glyphs,
                                                  const std::map<int, int> &characters) {
     std::set<int> keep = closure(font, glyphs);
+    // Ids beyond the last glyph kept are left out of the file.
+    int glyphCount = std::min(*keep.rbegin() + 1, font.glyphCount());
     Bytes glyf, loca;
-    for (int g = 0; g < font.glyphCount(); ++g) {
+    for (int g = 0; g < glyphCount; ++g) {
         put32(loca, (uint32_t)glyf.size());
         uint32_t at, size;
         if (!keep.count(g) || !font.glyphLocation(g, &at, &size)) continue;
-        glyf.insert(glyf.end(), font.bytes() + at, font.bytes() + at + size);
+        Bytes outline = outlineWithoutHints(font.bytes() + at, size);
+        glyf.insert(glyf.end(), outline.begin(), outline.end());
         while (glyf.size() % 4) glyf.push_back(0);
     }
     put32(loca, (uint32_t)glyf.size());
 
-    Bytes head = copyOf(font, "head");
-    if (head.size() < 54) return Bytes();
+    Bytes head = copyOf(font, "head"), maxp = copyOf(font, "maxp"), hhea = copyOf(font, "hhea");
+    if (head.size() < 54 || maxp.size() < 6) return Bytes();
     set32(head, 8, 0);   // checkSumAdjustment, set below
     set16(head, 50, 1);  // long locations
+    set16(maxp, 4, glyphCount);
+    if (maxp.size() >= 28) set16(maxp, 26, 0);  // the largest glyph program
+    Bytes hmtx = metricsOf(font, glyphCount, hhea);
     Bytes post = copyOf(font, "post");
     if (post.size() >= 32) {
         post.resize(32);
@@ -127,15 +191,14 @@ std::vector<unsigned char> TrueTypeSubset::build(const TrueTypeFile &font,
     }
 
     std::vector<OutTable> out;
-    const char *copied[] = {"OS/2", "cvt ", "fpgm", "hhea", "hmtx", "maxp", "name", "prep"};
-    for (const char *tag : copied) {
-        Bytes b = copyOf(font, tag);
-        if (!b.empty()) out.push_back(OutTable{tag, b});
-    }
+    if (Bytes os2 = copyOf(font, "OS/2"); !os2.empty()) out.push_back(OutTable{"OS/2", os2});
     out.push_back(OutTable{"cmap", cmapOf(characters)});
     out.push_back(OutTable{"glyf", glyf});
     out.push_back(OutTable{"head", head});
+    out.push_back(OutTable{"hhea", hhea});
+    out.push_back(OutTable{"hmtx", hmtx});
     out.push_back(OutTable{"loca", loca});
+    out.push_back(OutTable{"maxp", maxp});
     if (!post.empty()) out.push_back(OutTable{"post", post});
     std::sort(out.begin(), out.end(),
               [](const OutTable &a, const OutTable &b) { return a.tag < b.tag; });
