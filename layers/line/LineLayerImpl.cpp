@@ -89,12 +89,14 @@ const MultiLine *LineLayerImpl::lineOf(int dataSet) {
 
 MultiLine *LineLayerImpl::builtLine(int dataSet) {
     MultiLine *line = lineAt(dataSet);
-    if (line && (size_t)dataSet < unbuilt.size() && unbuilt[dataSet]) {
-        unbuilt[dataSet] = false;
-        createLineObj(dataSet, *line);
-        line->layout(isSwapped(), getOffsetX(), getOffsetY());
-    }
+    if (line) line->make();
     return line;
+}
+
+void LineLayerImpl::makeLine(int dataSet) {
+    MultiLine *line = lineAt(dataSet);
+    createLineObj(dataSet, *line);
+    line->layout(isSwapped(), getOffsetX(), getOffsetY());
 }
 
 // A set whose segments and gap bridges draw nothing (a scatter) needs its
@@ -112,13 +114,15 @@ int LineLayerImpl::axisPixels() const {
 
 void LineLayerImpl::onPrepare() {
     releaseClipper();
-    unbuilt.assign(countDataSets(), false);
     for (int s = 0; s < countDataSets(); ++s) {
         MultiLine *line = lineAt(s);
         line->clear();
-        unbuilt[s] = getDataCount() > 0 && !drawsLine(s);
-        if (getDataCount() > 0 && !unbuilt[s]) createLineObj(s, *line);
         line->layout(isSwapped(), getOffsetX(), getOffsetY());
+        if (getDataCount() <= 0) continue;
+        if (drawsLine(s))
+            createLineObj(s, *line);
+        else
+            line->defer(this, s);
     }
 }
 

@@ -4,11 +4,11 @@
 
 #include "chart/layer/LayerImpl.h"
 #include "layers/line/LineLayer.h"
+#include "layers/line/MultiLine.h"
 #include "layers/line/SymbolSizes.h"
 
 class ClipChain;
 class DataSetImpl;
-class MultiLine;
 
 // Lines through the points of each data set, and the data sets' symbols and
 // labels at the points.  At layout each data set's points become the layer
@@ -17,7 +17,7 @@ class MultiLine;
 // what is drawn and written grows with the plot's width, not with the data.
 // In 3D each segment is a ribbon face.  The sets paint from the last to the
 // first, so that the first lies on top.
-class LineLayerImpl : public virtual LineLayer, public LayerImpl {
+class LineLayerImpl : public virtual LineLayer, public LayerImpl, private LineMaker {
 public:
     explicit LineLayerImpl(XYChartImpl *chart);
     ~LineLayerImpl() override;
@@ -50,6 +50,7 @@ private:
     MultiLine *lineAt(int dataSet);
     // The line of a set, made now if layout left it for later.
     MultiLine *builtLine(int dataSet);
+    void makeLine(int dataSet) override;
     bool drawsLine(int dataSet) const;
     // Fills the data set's line by the plain walk or the column walk.
     void createLineObj(int dataSet, MultiLine &line);
@@ -68,7 +69,5 @@ private:
     bool fastLineMode;
     SymbolSizes symbolSizes;
     std::vector<MultiLine *> lines;
-    // Per set: the line waits until it is asked for.
-    std::vector<bool> unbuilt;
     ClipChain *clipper;
 };

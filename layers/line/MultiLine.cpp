@@ -4,11 +4,20 @@
 
 #include "foundation/Constants.h"
 
-MultiLine::MultiLine() : swapXY(false), offsetX(0), offsetY(0) {}
+MultiLine::MultiLine()
+    : pendingMaker(nullptr), pendingSet(0), swapXY(false), offsetX(0), offsetY(0) {}
 
 void MultiLine::clear() {
     points.clear();
     canvasPoints.clear();
+    pendingMaker = nullptr;
+}
+
+void MultiLine::make() {
+    if (!pendingMaker) return;
+    LineMaker *maker = pendingMaker;
+    pendingMaker = nullptr;
+    maker->makeLine(pendingSet);
 }
 
 double MultiLine::getY(double x) const {
@@ -30,6 +39,7 @@ void MultiLine::layout(bool swap, int dx, int dy) {
 }
 
 DoubleArray MultiLine::getPoints() {
+    make();
     if (canvasPoints.empty()) {
         canvasPoints.reserve(2 * points.size());
         for (const Point &p : points) {

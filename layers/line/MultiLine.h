@@ -6,6 +6,15 @@
 #include "chart/axis/paint/LineObj.h"
 #include "foundation/Constants.h"
 
+// Makes the points of a line that layout left for later.
+class LineMaker {
+public:
+    virtual void makeLine(int dataSet) = 0;
+
+protected:
+    ~LineMaker() {}
+};
+
 // The line of one data set as a layer lays it out: a list of points in layer
 // pixels (x along the x axis, y along the value axis), each with the index of
 // its data point and whether a gap follows it.  Plain records, no object per
@@ -22,6 +31,14 @@ public:
     MultiLine();
 
     void clear();
+    // Leaves the points to the maker until they are first read: a line that
+    // draws nothing (a scatter's) costs nothing unless someone asks for it.
+    void defer(LineMaker *maker, int dataSet) {
+        pendingMaker = maker;
+        pendingSet = dataSet;
+    }
+    // Makes the points now if they were left for later.
+    void make();
     void reserve(size_t count) { points.reserve(count); }
     // Appends a point; x or y of kNoValue marks a gap after the last point
     // instead (nothing when there is none yet).
@@ -46,6 +63,8 @@ public:
 
 private:
     std::vector<Point> points;
+    LineMaker *pendingMaker;
+    int pendingSet;
     bool swapXY;
     int offsetX;
     int offsetY;
