@@ -56,6 +56,8 @@ bool symbolsAndLabels(const std::string &path) {
     legend->setBackground(kTransparent, kTransparent, 0);
     legend->setLineStyleKey(true);
     c->xAxis()->setLabels(StringArray(days, 7));
+    // Points in the middle of their slots keep the first label clear of the y axis.
+    c->xAxis()->setIndent(true);
     LineLayer *layer = c->addLineLayer2(kOverlay, 0);
     layer->setLineWidth(2);
     layer->addDataSet(DoubleArray(sales, 7), kBlue, "Sales")
