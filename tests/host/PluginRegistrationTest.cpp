@@ -19,9 +19,10 @@ struct ClassCounts {
 };
 
 // Every class in registration order.  Still to come: DrawObj's paint; of the
-// axis, the overloads over host dates; the XY chart's makers of the other layer
-// kinds and those over host dates, and its scale colours; the forms over host pictures and dates of
-// layers and data sets; and the classes of later Parts.
+// axis, the overloads over host dates; the XY chart's makers of the other
+// layer kinds and those over host dates, and its scale colours; the forms over
+// host pictures and dates of layers and data sets; and the classes of later
+// Parts.
 const ClassCounts kExpected[] = {
     {"VSTreeMapNodeXPG", "Object", 32, 0, 18},
     {"VSTreeMapChartXPG", "VSBaseChartXPG", 0, 0, 5},
