@@ -7,7 +7,7 @@
 
 #include "draw/list/MetaDrawImpl.h"
 #include "foundation/Stream.h"
-#include "tests/draw/NullBackEnd.h"
+#include "tests/draw/list/NullBackEnd.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     if (size < 1) return 0;

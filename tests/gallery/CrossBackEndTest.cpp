@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "examples/gallery/Gallery.h"
-#include "tests/draw/CodecTestSupport.h"
-#include "tests/draw/VectorTestSupport.h"
+#include "tests/draw/codec/CodecTestSupport.h"
+#include "tests/draw/vector/VectorTestSupport.h"
 
 using namespace vectortest;
 

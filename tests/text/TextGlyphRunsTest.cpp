@@ -11,7 +11,7 @@
 
 #include "draw/canvas/DrawArea.h"
 #include "draw/list/MetaDraw.h"
-#include "tests/draw/NullBackEnd.h"
+#include "tests/draw/list/NullBackEnd.h"
 #include "text/CanvasText.h"
 #include "text/layout/TTFText.h"
 

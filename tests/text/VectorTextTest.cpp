@@ -5,7 +5,7 @@
 
 #include "draw/canvas/DrawArea.h"
 #include "draw/svg/SVGTextWriter.h"
-#include "tests/draw/VectorTestSupport.h"
+#include "tests/draw/vector/VectorTestSupport.h"
 #include "text/CanvasText.h"
 
 using namespace vectortest;

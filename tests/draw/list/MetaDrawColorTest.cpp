@@ -5,7 +5,7 @@
 
 #include "draw/pixel/ColorWords.h"
 #include "foundation/Constants.h"
-#include "tests/draw/MetaDrawTestSupport.h"
+#include "tests/draw/list/MetaDrawTestSupport.h"
 
 using namespace metadraw_test;
 

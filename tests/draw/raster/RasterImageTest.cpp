@@ -7,7 +7,7 @@
 
 #include "draw/pixel/ImageOps.h"
 #include "draw/pixel/PixelBlend.h"
-#include "tests/draw/RasterTestSupport.h"
+#include "tests/draw/raster/RasterTestSupport.h"
 
 namespace {
 

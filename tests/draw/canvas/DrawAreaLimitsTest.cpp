@@ -10,7 +10,7 @@
 
 #include "draw/canvas/DrawArea.h"
 #include "draw/pixel/ColorWords.h"
-#include "tests/draw/DrawAreaTestSupport.h"
+#include "tests/draw/canvas/DrawAreaTestSupport.h"
 
 namespace {
 

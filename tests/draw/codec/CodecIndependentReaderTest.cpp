@@ -9,7 +9,7 @@
 
 #include "draw/codec/ImageEncoder.h"
 #include "foundation/Constants.h"
-#include "tests/draw/CodecTestSupport.h"
+#include "tests/draw/codec/CodecTestSupport.h"
 
 using namespace codectest;
 
@@ -99,7 +99,7 @@ TEST(CodecIndependentReader, PILReadsOurFiles) {
     PixelImage fewImage(few.data(), 40, 6);
     add("few.gif", fewImage, kGIF, seen);
 
-    std::string command = python() + " " + VISTREL_SOURCE_DIR + "/tests/draw/codec_check.py";
+    std::string command = python() + " " + VISTREL_SOURCE_DIR + "/tests/draw/codec/codec_check.py";
     for (const std::string &a : args) command += " " + a;
     int status = system(command.c_str());
     if (WIFEXITED(status) && WEXITSTATUS(status) == 77) GTEST_SKIP() << "PIL is not installed";

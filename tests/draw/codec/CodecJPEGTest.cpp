@@ -11,7 +11,7 @@
 #include "draw/codec/ImageEncoder.h"
 #include "draw/codec/JPEGCodec.h"
 #include "foundation/Constants.h"
-#include "tests/draw/CodecTestSupport.h"
+#include "tests/draw/codec/CodecTestSupport.h"
 
 using namespace codectest;
 

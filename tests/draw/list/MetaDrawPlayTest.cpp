@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "draw/pixel/ColorWords.h"
-#include "tests/draw/MetaDrawTestSupport.h"
+#include "tests/draw/list/MetaDrawTestSupport.h"
 
 using namespace metadraw_test;
 

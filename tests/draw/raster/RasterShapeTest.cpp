@@ -7,7 +7,7 @@
 #include "draw/raster/AAShape.h"
 #include "draw/raster/scan/AALineEdge.h"
 #include "draw/raster/scan/SpanPainter.h"
-#include "tests/draw/RasterTestSupport.h"
+#include "tests/draw/raster/RasterTestSupport.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "draw/pixel/PixelBlend.h"
 #include "draw/raster/SuperPixels.h"
-#include "tests/draw/RasterTestSupport.h"
+#include "tests/draw/raster/RasterTestSupport.h"
 
 namespace {
 

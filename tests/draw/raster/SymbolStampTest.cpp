@@ -8,8 +8,8 @@
 
 #include "draw/pixel/ImagePalette.h"
 #include "foundation/Constants.h"
-#include "tests/draw/DrawAreaTestSupport.h"
-#include "tests/draw/VectorTestSupport.h"
+#include "tests/draw/canvas/DrawAreaTestSupport.h"
+#include "tests/draw/vector/VectorTestSupport.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include "draw/canvas/DrawArea.h"
 #include "draw/pixel/ColorWords.h"
 #include "foundation/Codec.h"
-#include "tests/draw/DrawAreaTestSupport.h"
-#include "tests/draw/VectorTestSupport.h"
+#include "tests/draw/canvas/DrawAreaTestSupport.h"
+#include "tests/draw/vector/VectorTestSupport.h"
 
 using namespace vectortest;
 

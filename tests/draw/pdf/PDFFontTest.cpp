@@ -9,7 +9,7 @@
 #include "draw/pdf/PDFTTFFont.h"
 #include "draw/pdf/PDFUnknownFont.h"
 #include "foundation/Stream.h"
-#include "tests/draw/VectorTestSupport.h"
+#include "tests/draw/vector/VectorTestSupport.h"
 
 using namespace vectortest;
 

@@ -7,7 +7,7 @@
 #include "draw/raster/brush/LightingBrushes.h"
 #include "draw/raster/brush/PatternBrushes.h"
 #include "draw/raster/brush/SimpleBrushes.h"
-#include "tests/draw/RasterTestSupport.h"
+#include "tests/draw/raster/RasterTestSupport.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include "draw/list/MetaDrawImpl.h"
 #include "draw/list/MetaText.h"
 #include "foundation/Stream.h"
-#include "tests/draw/NullBackEnd.h"
+#include "tests/draw/list/NullBackEnd.h"
 
 namespace metadraw_test {
 

@@ -7,7 +7,7 @@
 #include "draw/pixel/ColorWords.h"
 #include "draw/raster/DrawBMPImpl.h"
 #include "foundation/Constants.h"
-#include "tests/draw/DrawAreaTestSupport.h"
+#include "tests/draw/canvas/DrawAreaTestSupport.h"
 
 namespace {
 

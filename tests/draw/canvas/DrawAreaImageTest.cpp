@@ -13,7 +13,7 @@
 #include "draw/list/MetaDraw.h"
 #include "foundation/Constants.h"
 #include "foundation/Stream.h"
-#include "tests/draw/DrawAreaTestSupport.h"
+#include "tests/draw/canvas/DrawAreaTestSupport.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 
 #include "draw/pdf/font/TrueTypeFile.h"
 #include "draw/pdf/font/TrueTypeSubset.h"
-#include "tests/draw/VectorTestSupport.h"
+#include "tests/draw/vector/VectorTestSupport.h"
 
 namespace {
 

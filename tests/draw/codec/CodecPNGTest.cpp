@@ -7,7 +7,7 @@
 #include "draw/codec/ImageEncoder.h"
 #include "draw/codec/PNGCodec.h"
 #include "foundation/Constants.h"
-#include "tests/draw/CodecTestSupport.h"
+#include "tests/draw/codec/CodecTestSupport.h"
 
 using namespace codectest;
 

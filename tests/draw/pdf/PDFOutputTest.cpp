@@ -5,8 +5,8 @@
 
 #include "draw/canvas/DrawArea.h"
 #include "draw/pixel/ColorWords.h"
-#include "tests/draw/DrawAreaTestSupport.h"
-#include "tests/draw/VectorTestSupport.h"
+#include "tests/draw/canvas/DrawAreaTestSupport.h"
+#include "tests/draw/vector/VectorTestSupport.h"
 
 using namespace vectortest;
 

@@ -8,7 +8,7 @@
 #include "draw/canvas/TextAntiAlias.h"
 #include "draw/raster/DrawBMP.h"
 #include "foundation/Constants.h"
-#include "tests/draw/DrawAreaTestSupport.h"
+#include "tests/draw/canvas/DrawAreaTestSupport.h"
 
 TEST(DrawAreaSettings, MediaTypes) {
     const char *expected[] = {"image/png", "image/gif",     "image/jpeg",    "image/unknown",

@@ -8,7 +8,7 @@
 #include "draw/raster/PlotCollector.h"
 #include "draw/raster/scan/LineRasterizer.h"
 #include "tests/draw/BoundedRun.h"
-#include "tests/draw/RasterTestSupport.h"
+#include "tests/draw/raster/RasterTestSupport.h"
 
 namespace {
 

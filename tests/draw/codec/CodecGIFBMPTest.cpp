@@ -9,7 +9,7 @@
 #include "draw/codec/ImageDecoder.h"
 #include "draw/codec/ImageEncoder.h"
 #include "foundation/Constants.h"
-#include "tests/draw/CodecTestSupport.h"
+#include "tests/draw/codec/CodecTestSupport.h"
 
 using namespace codectest;
 

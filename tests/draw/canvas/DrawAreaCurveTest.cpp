@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "draw/canvas/CurveFlattener.h"
-#include "tests/draw/DrawAreaTestSupport.h"
+#include "tests/draw/canvas/DrawAreaTestSupport.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "draw/canvas/DrawArea.h"
 #include "draw/list/MetaDraw.h"
 #include "draw/raster/DrawBMP.h"
-#include "tests/draw/RasterTestSupport.h"
+#include "tests/draw/raster/RasterTestSupport.h"
 
 namespace {
 

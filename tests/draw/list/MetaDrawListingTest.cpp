@@ -7,7 +7,7 @@
 #include "draw/list/MetaRecordCall.h"
 #include "draw/list/MetaRecordReader.h"
 #include "draw/pixel/ColorWords.h"
-#include "tests/draw/MetaDrawTestSupport.h"
+#include "tests/draw/list/MetaDrawTestSupport.h"
 
 using namespace metadraw_test;
 

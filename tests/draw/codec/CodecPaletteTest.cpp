@@ -9,7 +9,7 @@
 #include "draw/pixel/ImagePalette.h"
 #include "draw/pixel/Octree.h"
 #include "draw/pixel/OctreeQuantizer.h"
-#include "tests/draw/CodecTestSupport.h"
+#include "tests/draw/codec/CodecTestSupport.h"
 
 using namespace codectest;
 
