@@ -56,11 +56,16 @@ void Ref::reset() {
     if (r) h->unlock(r);
 }
 
-Value Value::integer(int64_t v) {
+// Integers, booleans and colours all travel in the integer word.
+static Value wordValue(Value::Type type, int64_t word) {
     Value x;
-    x.type = Integer;
-    x.i = v;
+    x.type = type;
+    x.i = word;
     return x;
+}
+
+Value Value::integer(int64_t v) {
+    return wordValue(Integer, v);
 }
 
 Value Value::real(double v) {
@@ -71,17 +76,11 @@ Value Value::real(double v) {
 }
 
 Value Value::boolean(bool v) {
-    Value x;
-    x.type = Boolean;
-    x.i = v;
-    return x;
+    return wordValue(Boolean, v);
 }
 
 Value Value::color(uint32_t v) {
-    Value x;
-    x.type = Color;
-    x.i = v;
-    return x;
+    return wordValue(Color, v);
 }
 
 Value Value::string(const std::string &v) {
