@@ -152,7 +152,8 @@ bool ribbons(const std::string &path) {
 
 bool scatterShapes(const std::string &path) {
     XYChart *c = lineChart("Scatter symbols of every shape, one size per point in the last");
-    c->addLegend(70, 50, false, "", 8)->setBackground(0xffffff, 0xdde3ea, 0);
+    // Five keys a row keep the legend inside the plot.
+    c->addLegend2(70, 50, 5, "", 8)->setBackground(0xffffff, 0xdde3ea, 0);
     c->yAxis()->setLinearScale(0, 120, 20, 0);
     const int shapes[] = {kSquareShape,           kDiamondShape,     kTriangleShape,
                           kInvertedTriangleShape, kCircleShape,      kCircleShapeNoShading,
